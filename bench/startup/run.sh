@@ -1,0 +1,56 @@
+#!/usr/bin/env bash
+# Start-up benchmark: the time from the start of the process until its main
+# window is on the screen, and the peak memory, for Quillane and for a minimal
+# Qt program that shows one empty maximised window (the floor). Runs each
+# several times in turn under a private X server and prints the medians and
+# the ratios. Target: Quillane within 1.5 times the floor in both.
+#   quillane-bench-startup [RUNS]        (from the build's bin folder)
+set -euo pipefail
+here=$(cd "$(dirname "$0")" && pwd)
+runs=${1:-7}
+if [ -z "${DISPLAY:-}" ]; then
+  exec xvfb-run -a -s "-screen 0 1600x900x24" "$0" "$@"
+fi
+scratch=$(mktemp -d)
+trap 'rm -rf "$scratch"' EXIT
+export XDG_CONFIG_HOME=$scratch/config XDG_RUNTIME_DIR=$scratch/run XDG_DATA_HOME=$scratch/data
+mkdir -p "$XDG_RUNTIME_DIR" && chmod 700 "$XDG_RUNTIME_DIR"
+
+# One run: milliseconds until the window is mapped, and the peak resident set
+# in KiB once the window is up and the event loop is idle.
+measure() {
+  local program=$1 title=$2 start pid ms
+  start=$(date +%s%N)
+  "$program" >/dev/null 2>"$scratch/stderr" &
+  pid=$!
+  # A tight poll: xdotool's own --sync waits half a second between looks.
+  until xdotool search --onlyvisible --name "$title" >/dev/null 2>&1; do
+    if ! kill -0 "$pid" 2>/dev/null || [ $(( $(date +%s%N) - start )) -gt 30000000000 ]; then
+      echo "$program did not show its window:" >&2
+      cat "$scratch/stderr" >&2
+      exit 1
+    fi
+    sleep 0.005
+  done
+  ms=$(( ($(date +%s%N) - start) / 1000000 ))
+  sleep 0.5
+  kb=$(awk '/VmHWM/ {print $2}' "/proc/$pid/status")
+  kill "$pid"; wait "$pid" 2>/dev/null || true
+  echo "$ms $kb"
+}
+
+median() { sort -n | awk '{a[NR]=$1} END {print (NR % 2) ? a[(NR+1)/2] : (a[NR/2] + a[NR/2+1]) / 2}'; }
+
+: >"$scratch/q"; : >"$scratch/f"
+measure "$here/quillane" '^Quillane v1\.20$' >/dev/null # warm-up
+measure "$here/quillane-bench-floor" '^Floor$' >/dev/null
+for _ in $(seq "$runs"); do
+  measure "$here/quillane" '^Quillane v1\.20$' >>"$scratch/q"
+  measure "$here/quillane-bench-floor" '^Floor$' >>"$scratch/f"
+done
+qt=$(cut -d' ' -f1 "$scratch/q" | median); qm=$(cut -d' ' -f2 "$scratch/q" | median)
+ft=$(cut -d' ' -f1 "$scratch/f" | median); fm=$(cut -d' ' -f2 "$scratch/f" | median)
+printf 'runs: %s each, medians\n' "$runs"
+printf '%-10s %10s %12s\n' "" "start ms" "peak KiB" quillane "$qt" "$qm" floor "$ft" "$fm"
+awk -v qt="$qt" -v ft="$ft" -v qm="$qm" -v fm="$fm" 'BEGIN {
+  printf "ratio      %10.2f %12.2f   (target: at most 1.50 each)\n", qt / ft, qm / fm }'

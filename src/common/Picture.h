@@ -1,0 +1,27 @@
+#pragma once
+// What a picture control shows: a descriptor that names the picture, the bytes
+// of a picture file where the picture came from data (a card), and a turn.
+#include <memory>
+#include <string>
+#include <vector>
+
+namespace quillane {
+
+struct Picture {
+    // "" for none; "IMG 9", "imgSign 3", "imgPlanet 3", "card 17".
+    std::string descriptor;
+    // The complete picture file, for pictures loaded from data; null otherwise.
+    std::shared_ptr<const std::vector<unsigned char>> bytes;
+    bool rot180 = false;
+
+    bool empty() const { return descriptor.empty(); }
+    // The text that the driver shows: the descriptor, " rot180" when turned.
+    std::string Describe() const {
+        return empty() ? std::string() : descriptor + (rot180 ? " rot180" : "");
+    }
+    friend bool operator==(const Picture& a, const Picture& b) {
+        return a.descriptor == b.descriptor && a.rot180 == b.rot180;
+    }
+};
+
+} // namespace quillane

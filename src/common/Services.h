@@ -1,0 +1,133 @@
+#pragma once
+// The seams between the program's logic and the platform. The logic gets these
+// injected and never calls the platform directly; the desktop program
+// implements them on Qt, the driver with recording versions.
+#include "Date.h"
+
+#include <optional>
+#include <string>
+#include <vector>
+
+namespace quillane {
+
+enum class MsgIcon { None, Information, Critical, Exclamation, Question };
+enum class MsgButtons { Ok, YesNo };
+enum class MsgAnswer { Ok, Yes, No };
+
+class IMessageBox {
+public:
+    virtual ~IMessageBox() = default;
+    virtual MsgAnswer Show(const std::string& text, const std::string& title, MsgIcon icon,
+                           MsgButtons buttons) = 0;
+};
+
+class IBrowser {
+public:
+    virtual ~IBrowser() = default;
+    virtual void Open(const std::string& address) = 0;
+};
+
+// A run of text of a printed or shown report.
+struct TextRun {
+    std::string text;
+    bool bold = false;
+    double pointSize = 0; // 0: the default size
+};
+
+class IPrinter {
+public:
+    virtual ~IPrinter() = default;
+    // Sends the document to the default printer without a dialog; false when
+    // it could not be printed. Callers ignore failures.
+    virtual bool Print(const std::vector<TextRun>& document) = 0;
+};
+
+class ISaveDialog {
+public:
+    virtual ~ISaveDialog() = default;
+    // The chosen file name, or nothing when cancelled. Asks before overwriting.
+    virtual std::optional<std::string> GetSaveFileName(const std::string& filter) = 0;
+};
+
+class IClock {
+public:
+    virtual ~IClock() = default;
+    virtual Date Today() = 0;
+    // Seconds since midnight, the reading that seeds the generator.
+    virtual double Timer() = 0;
+};
+
+// The system's date conventions.
+class ILocale {
+public:
+    virtual ~ILocale() = default;
+    virtual std::string ShortDate(const Date& date) = 0;
+    virtual std::optional<Date> ParseShortDate(const std::string& text) = 0;
+    virtual std::string MonthName(int month) = 0; // 1..12
+};
+
+// The per-user store of strings by application, section and key. Strings are
+// byte strings; the store keeps them byte for byte.
+class ISettingsStore {
+public:
+    virtual ~ISettingsStore() = default;
+    virtual std::optional<std::string> Read(const std::string& application,
+                                            const std::string& section, const std::string& key) = 0;
+    virtual void Write(const std::string& application, const std::string& section,
+                       const std::string& key, const std::string& value) = 0;
+};
+
+// Where the program is and how it was started.
+class IProgramFolder {
+public:
+    virtual ~IProgramFolder() = default;
+    // The program's own folder, without a trailing separator.
+    virtual std::string ProgramDir() = 0;
+    // The folder for the program's plain files: the program's folder when it
+    // can be written, else the user's data folder for the program.
+    virtual std::string FilesDir() = 0;
+    // The program's file name without its extension.
+    virtual std::string ExeName() = 0;
+    // The command line after the program's name.
+    virtual std::string CommandLine() = 0;
+};
+
+class IInstanceLock {
+public:
+    virtual ~IInstanceLock() = default;
+    // True when another instance of this program runs for this user.
+    virtual bool AnotherInstanceRunning() = 0;
+};
+
+class ITray {
+public:
+    virtual ~ITray() = default;
+    virtual bool Available() = 0;
+    virtual void Add(const std::string& tip) = 0;
+    virtual void Remove() = 0;
+};
+
+class IAutostart {
+public:
+    virtual ~IAutostart() = default;
+    virtual std::optional<std::string> Read(const std::string& name) = 0;
+    virtual void Write(const std::string& name, const std::string& command) = 0;
+    virtual void Remove(const std::string& name) = 0;
+};
+
+class IPictureDecoder {
+public:
+    virtual ~IPictureDecoder() = default;
+    // True when the bytes are a complete picture file that can be shown.
+    virtual bool CanDecode(const std::vector<unsigned char>& bytes) = 0;
+};
+
+// The screen, in twips (1/1440 inch), as the launcher lays itself out by it.
+class IScreen {
+public:
+    virtual ~IScreen() = default;
+    virtual int WidthTwips() = 0;
+    virtual int HeightTwips() = 0;
+};
+
+} // namespace quillane

@@ -1,0 +1,116 @@
+#include "Inspect.h"
+
+#include <vector>
+
+namespace quillane::drive {
+
+namespace {
+
+std::vector<std::string> PropertiesOf(ControlKind kind) {
+    std::vector<std::string> props{"Visible", "Enabled", "Tag"};
+    switch (kind) {
+    case ControlKind::Label:
+        props.insert(props.end(), {"Caption", "FontUnderline", "FontBold"});
+        break;
+    case ControlKind::CommandButton:
+    case ControlKind::Frame:
+    case ControlKind::Menu:
+        props.push_back("Caption");
+        break;
+    case ControlKind::CheckBox:
+    case ControlKind::OptionButton:
+        props.insert(props.end(), {"Caption", "Value"});
+        break;
+    case ControlKind::TextBox:
+        props.insert(props.end(), {"Text", "SelStart"});
+        break;
+    case ControlKind::RichTextBox:
+        props.insert(props.end(), {"Text", "SelStart", "BoldText"});
+        break;
+    case ControlKind::ComboBox:
+        props.insert(props.end(), {"Text", "ListIndex", "ListCount", "List"});
+        break;
+    case ControlKind::PictureBox:
+    case ControlKind::Image:
+        props.push_back("Picture");
+        break;
+    default:
+        break;
+    }
+    return props;
+}
+
+} // namespace
+
+std::optional<Json> GetProperty(const Control& c, const std::string& p) {
+    if (p == "Visible")
+        return Json(c.Visible());
+    if (p == "Enabled")
+        return Json(c.Enabled());
+    if (p == "Tag")
+        return Json(c.Tag());
+    if (p == "Caption")
+        return Json(c.Caption());
+    if (p == "Text")
+        return Json(c.Text());
+    if (p == "Value") {
+        if (c.Kind() == ControlKind::OptionButton)
+            return Json(c.Value() != 0);
+        if (c.Kind() == ControlKind::CheckBox)
+            return Json(c.Value());
+        return std::nullopt;
+    }
+    if (p == "InFront") {
+        if (!c.Stack())
+            return std::nullopt;
+        return Json(c.InFront());
+    }
+    if (p == "ListIndex")
+        return Json(c.ListIndex());
+    if (p == "ListCount")
+        return Json(c.ListCount());
+    if (p == "List") {
+        Json::Array items;
+        for (const auto& item : c.ListItems())
+            items.emplace_back(item);
+        return Json(std::move(items));
+    }
+    if (p == "Picture")
+        return Json(c.Picture().Describe());
+    if (p == "FontUnderline")
+        return Json(c.FontUnderline());
+    if (p == "FontBold")
+        return Json(c.FontBold());
+    if (p == "FontSize")
+        return Json(c.FontSize());
+    if (p == "SelStart")
+        return Json(c.SelStart());
+    if (p == "BoldText") {
+        Json::Array runs;
+        for (const auto& run : c.BoldText())
+            runs.emplace_back(run);
+        return Json(std::move(runs));
+    }
+    if (p == "Left")
+        return Json(c.Left());
+    if (p == "Top")
+        return Json(c.Top());
+    if (p == "Width")
+        return Json(c.Width());
+    if (p == "Height")
+        return Json(c.Height());
+    return std::nullopt;
+}
+
+Json DumpControl(const Control& control) {
+    Json::Object props;
+    auto names = PropertiesOf(control.Kind());
+    if (control.Stack())
+        names.push_back("InFront");
+    for (const auto& name : names)
+        if (auto value = GetProperty(control, name))
+            props.emplace_back(name, *value);
+    return Json(std::move(props));
+}
+
+} // namespace quillane::drive

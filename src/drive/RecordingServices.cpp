@@ -1,0 +1,113 @@
+#include "RecordingServices.h"
+
+#include <cstdio>
+
+namespace quillane::drive {
+
+namespace {
+const char* IconName(MsgIcon icon) {
+    switch (icon) {
+    case MsgIcon::Information:
+        return "information";
+    case MsgIcon::Critical:
+        return "critical";
+    case MsgIcon::Exclamation:
+        return "exclamation";
+    case MsgIcon::Question:
+        return "question";
+    default:
+        return "none";
+    }
+}
+const char* AnswerName(MsgAnswer answer) {
+    switch (answer) {
+    case MsgAnswer::Yes:
+        return "yes";
+    case MsgAnswer::No:
+        return "no";
+    default:
+        return "ok";
+    }
+}
+const char* const kMonths[12] = {"January",   "February", "March",    "April",
+                                 "May",       "June",     "July",     "August",
+                                 "September", "October",  "November", "December"};
+} // namespace
+
+MsgAnswer RecordingMessageBox::Show(const std::string& text, const std::string& title, MsgIcon icon,
+                                    MsgButtons buttons) {
+    MsgAnswer answer = MsgAnswer::Ok;
+    if (buttons == MsgButtons::YesNo) {
+        answer = MsgAnswer::No;
+        if (!answers_.empty()) {
+            answer = answers_.front();
+            answers_.pop_front();
+        }
+    }
+    shown_.push_back(Json::Object{{"text", text},
+                                  {"title", title},
+                                  {"icon", IconName(icon)},
+                                  {"buttons", buttons == MsgButtons::YesNo ? "yesno" : "ok"},
+                                  {"answer", AnswerName(answer)}});
+    return answer;
+}
+
+Json RecordingMessageBox::TakeOldest() {
+    if (shown_.empty())
+        return Json();
+    Json oldest = shown_.front();
+    shown_.pop_front();
+    return oldest;
+}
+
+bool RecordingPrinter::Print(const std::vector<TextRun>& document) {
+    if (!present_)
+        return false;
+    std::string text;
+    for (const auto& run : document)
+        text += run.text;
+    printed.push_back(text);
+    return true;
+}
+
+std::optional<std::string> QueuedSaveDialog::GetSaveFileName(const std::string&) {
+    if (answers_.empty())
+        return std::nullopt;
+    auto answer = answers_.front();
+    answers_.pop_front();
+    return answer;
+}
+
+double DriverClock::Timer() {
+    if (!seed_) {
+        timespec ts{};
+        timespec_get(&ts, TIME_UTC);
+        return double(ts.tv_sec % 86400) + double(ts.tv_nsec) / 1e9;
+    }
+    // Moves on by a hundredth of a second with each reading, as a clock would.
+    const long long n = (*seed_ % 8640000 + 8640000) % 8640000 + ticks_++;
+    return double(n % 8640000) / 100.0;
+}
+
+std::string DriverLocale::ShortDate(const Date& date) {
+    char buf[16];
+    std::snprintf(buf, sizeof buf, "%d/%d/%04d", date.Month(), date.Day(), date.Year());
+    return buf;
+}
+
+std::optional<Date> DriverLocale::ParseShortDate(const std::string& text) {
+    int m = 0, d = 0, y = 0;
+    char tail = 0;
+    if (std::sscanf(text.c_str(), "%d/%d/%d%c", &m, &d, &y, &tail) != 3)
+        return std::nullopt;
+    Date date(y, m, d);
+    if (!date.Valid())
+        return std::nullopt;
+    return date;
+}
+
+std::string DriverLocale::MonthName(int month) {
+    return month >= 1 && month <= 12 ? kMonths[month - 1] : "";
+}
+
+} // namespace quillane::drive

@@ -1,0 +1,52 @@
+#pragma once
+// The services that the desktop program and the driver both take from the
+// platform: the instance lock, the program's folder, the locale's dates, the
+// picture decoder.
+#include "common/Services.h"
+
+#include <QLockFile>
+#include <QString>
+#include <memory>
+
+namespace quillane {
+
+// One lock per user and program, in the user's runtime folder.
+class LockFileInstance : public IInstanceLock {
+public:
+    explicit LockFileInstance(QString program);
+    bool AnotherInstanceRunning() override;
+
+private:
+    QString path_;
+    std::unique_ptr<QLockFile> lock_;
+};
+
+class ProgramFolder : public IProgramFolder {
+public:
+    ProgramFolder(QString programDir, QString exeName, QString commandLine);
+    std::string ProgramDir() override;
+    std::string FilesDir() override;
+    std::string ExeName() override { return exe_.toStdString(); }
+    std::string CommandLine() override { return commandLine_.toStdString(); }
+
+private:
+    QString dir_, exe_, commandLine_;
+};
+
+// The system's short date form, always with a four-digit year so that a date
+// written today reads back as the same date.
+class SystemLocale : public ILocale {
+public:
+    std::string ShortDate(const Date& date) override;
+    std::optional<Date> ParseShortDate(const std::string& text) override;
+    std::string MonthName(int month) override;
+    // The short date format used, with its year widened to four digits.
+    static QString ShortFormat();
+};
+
+class ImageDecoder : public IPictureDecoder {
+public:
+    bool CanDecode(const std::vector<unsigned char>& bytes) override;
+};
+
+} // namespace quillane

@@ -1,0 +1,50 @@
+#pragma once
+// Binds a form's controls to the widgets of its window by name: the widget
+// whose object name is the control's path shows that control and hands the
+// user's actions to it. One binder serves every form.
+#include "common/Application.h"
+
+#include <QHash>
+#include <QObject>
+#include <QPointer>
+#include <QWidget>
+
+class QAction;
+class QMenu;
+
+namespace quillane::ui {
+
+class Binder : public QObject {
+public:
+    Binder(Application& app, Form& form, QWidget* root);
+    ~Binder() override;
+
+    // The top-level menus built from the form's menu entries.
+    const QList<QMenu*>& Menus() const { return menus_; }
+    QWidget* WidgetFor(const Control& control) const { return widgets_.value(&control); }
+
+    // The caption as a label shows it: "&&" is one ampersand, a lone "&" marks
+    // a mnemonic and is not shown.
+    static QString LabelText(const std::string& caption);
+
+protected:
+    bool eventFilter(QObject* watched, QEvent* event) override;
+
+private:
+    void Bind(Control& control, QWidget* widget);
+    void BuildMenus();
+    void Update(Control& control, Prop prop);
+    void Refresh(Control& control);
+    void Act(const std::function<void()>& action);
+
+    Application& app_;
+    Form& form_;
+    QWidget* root_;
+    QHash<const Control*, QWidget*> widgets_;
+    QHash<QObject*, Control*> controlOf_;
+    QHash<const Control*, QAction*> actions_;
+    QList<QMenu*> menus_;
+    bool updating_ = false;
+};
+
+} // namespace quillane::ui

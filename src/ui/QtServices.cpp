@@ -1,0 +1,105 @@
+#include "QtServices.h"
+
+#include <QApplication>
+#include <QDate>
+#include <QDesktopServices>
+#include <QFileDialog>
+#include <QMessageBox>
+#include <QPrinter>
+#include <QPrinterInfo>
+#include <QScreen>
+#include <QTextCursor>
+#include <QTextDocument>
+#include <QTime>
+#include <QUrl>
+
+namespace quillane::ui {
+
+MsgAnswer QtMessageBox::Show(const std::string& text, const std::string& title, MsgIcon icon,
+                             MsgButtons buttons) {
+    QMessageBox box(parent_);
+    box.setWindowTitle(QString::fromStdString(title));
+    // A lone carriage return separates lines in the program's messages.
+    box.setText(QString::fromStdString(text).replace("\r\n", "\n").replace('\r', '\n'));
+    switch (icon) {
+    case MsgIcon::Information:
+        box.setIcon(QMessageBox::Information);
+        break;
+    case MsgIcon::Critical:
+        box.setIcon(QMessageBox::Critical);
+        break;
+    case MsgIcon::Exclamation:
+        box.setIcon(QMessageBox::Warning);
+        break;
+    case MsgIcon::Question:
+        box.setIcon(QMessageBox::Question);
+        break;
+    default:
+        box.setIcon(QMessageBox::NoIcon);
+    }
+    if (buttons == MsgButtons::YesNo) {
+        box.setStandardButtons(QMessageBox::Yes | QMessageBox::No);
+        box.setDefaultButton(QMessageBox::Yes);
+        return box.exec() == QMessageBox::Yes ? MsgAnswer::Yes : MsgAnswer::No;
+    }
+    box.setStandardButtons(QMessageBox::Ok);
+    box.exec();
+    return MsgAnswer::Ok;
+}
+
+void DesktopBrowser::Open(const std::string& address) {
+    QDesktopServices::openUrl(QUrl(QString::fromStdString(address)));
+}
+
+bool DefaultPrinter::Print(const std::vector<TextRun>& document) {
+    if (QPrinterInfo::defaultPrinter().isNull())
+        return false;
+    QPrinter printer(QPrinterInfo::defaultPrinter());
+    QTextDocument doc;
+    QTextCursor cursor(&doc);
+    for (const auto& run : document) {
+        QTextCharFormat format;
+        format.setFontWeight(run.bold ? QFont::Bold : QFont::Normal);
+        if (run.pointSize > 0)
+            format.setFontPointSize(run.pointSize);
+        cursor.insertText(QString::fromStdString(run.text).replace("\r\n", "\n"), format);
+    }
+    doc.print(&printer);
+    return printer.printerState() != QPrinter::Error;
+}
+
+std::optional<std::string> FileSaveDialog::GetSaveFileName(const std::string& filter) {
+    const QString name = QFileDialog::getSaveFileName(QApplication::activeWindow(), QString(),
+                                                      QString(), QString::fromStdString(filter));
+    if (name.isEmpty())
+        return std::nullopt;
+    return name.toStdString();
+}
+
+Date SystemClock::Today() {
+    const QDate d = QDate::currentDate();
+    return Date(d.year(), d.month(), d.day());
+}
+
+double SystemClock::Timer() {
+    return QTime::currentTime().msecsSinceStartOfDay() / 1000.0;
+}
+
+namespace {
+// Twips per device-independent pixel at the screen's logical resolution.
+double TwipsPerPixel(QScreen* screen) {
+    return 1440.0 / (screen ? screen->logicalDotsPerInch() : 96.0);
+}
+} // namespace
+
+int PrimaryScreen::WidthTwips() {
+    QScreen* screen = QGuiApplication::primaryScreen();
+    return screen ? int(screen->geometry().width() * TwipsPerPixel(screen)) : 28800;
+}
+
+int PrimaryScreen::HeightTwips() {
+    QScreen* screen = QGuiApplication::primaryScreen();
+    return screen ? int(screen->geometry().height() * TwipsPerPixel(screen)) : 16200;
+}
+
+} // namespace quillane::ui

@@ -1,0 +1,122 @@
+// The deck as built into learn.dll: what the Tarot window relies on, read
+// through the same SQL texts and row sets that the program uses.
+#include "cards/modDB.h"
+#include "cards/modImageDB.h"
+
+#include <QByteArray>
+#include <QImage>
+
+#include <gtest/gtest.h>
+
+#include <map>
+#include <set>
+
+using namespace quillane;
+using namespace quillane::modDB;
+
+namespace {
+
+class DeckTest : public ::testing::Test {
+protected:
+    void SetUp() override {
+        OpenConnection(cn, QUILLANE_LEARN_DLL);
+        OpenRecordset(rs, cn,
+                      "SELECT * FROM tblCards WHERE  (Group=0) OR  (Group=1) OR  (Group=2) OR  "
+                      "(Group=3) OR  (Group=4) ORDER BY ID");
+    }
+    std::shared_ptr<Connection> cn;
+    std::shared_ptr<Recordset> rs;
+};
+
+TEST_F(DeckTest, HoldsTheSeventyEightCardsInTheirGroups) {
+    ASSERT_EQ(rs->RecordCount(), 78);
+    std::map<long, int> perGroup;
+    std::set<std::string> names;
+    long previous = 0;
+    for (rs->MoveFirst(); !rs->Eof(); rs->MoveNext()) {
+        long id = rs->Field("ID").AsLong();
+        EXPECT_GT(id, previous); // unique, positive, ascending
+        previous = id;
+        long group = rs->Field("Group").AsLong();
+        ++perGroup[group];
+        std::string name = rs->Field("Name").AsString();
+        EXPECT_TRUE(names.insert(name).second) << name;
+        EXPECT_LT(name.size(), 25u) << name; // the report's columns need short names
+    }
+    EXPECT_EQ(perGroup, (std::map<long, int>{{0, 22}, {1, 14}, {2, 14}, {3, 14}, {4, 14}}));
+
+    // The conventional order: the Fool first, each suit from Ace to King.
+    std::map<long, std::string> expected = {{1, "The Fool"},
+                                            {17, "The Tower"},
+                                            {22, "The World"},
+                                            {23, "Ace of Cups"},
+                                            {36, "King of Cups"},
+                                            {37, "Ace of Wands"},
+                                            {62, "Knight of Pentacles"},
+                                            {78, "King of Swords"}};
+    for (const auto& [id, name] : expected) {
+        rs->SetFilter("ID=" + std::to_string(id));
+        EXPECT_EQ(rs->Field("Name").AsString(), name);
+    }
+    rs->SetFilter("");
+}
+
+TEST_F(DeckTest, EveryMeaningIsItsOwnParagraph) {
+    std::set<std::string> texts;
+    for (rs->MoveFirst(); !rs->Eof(); rs->MoveNext()) {
+        for (const char* field : {"normalmeaning", "reversedmeaning"}) {
+            std::string text = rs->Field(field).AsString();
+            EXPECT_GE(text.size(), 250u) << rs->Field("Name").AsString() << " " << field;
+            EXPECT_LE(text.size(), 600u) << rs->Field("Name").AsString() << " " << field;
+            EXPECT_TRUE(texts.insert(text).second) << text;
+        }
+    }
+    EXPECT_EQ(texts.size(), 156u);
+}
+
+TEST_F(DeckTest, EveryCardHasSevenDifferentKeywordsToShow) {
+    std::shared_ptr<Recordset> keywords;
+    for (rs->MoveFirst(); !rs->Eof(); rs->MoveNext()) {
+        std::string id = rs->Field("Id").AsString();
+        OpenRecordset(keywords, cn, "SELECT DISTINCT * FROM tblKeywords WHERE CardID=" + id);
+        ASSERT_GE(keywords->RecordCount(), 7) << id;
+        std::set<std::string> words;
+        keywords->MoveFirst();
+        for (int i = 0; i < 7; ++i) { // what the memorise tab reads, without an end test
+            std::string word = keywords->Field("Keyword").AsString();
+            EXPECT_FALSE(word.empty()) << id;
+            words.insert(word);
+            keywords->MoveNext();
+        }
+        EXPECT_EQ(words.size(), 7u) << id;
+
+        OpenRecordset(keywords, cn, "SELECT DISTINCT * FROM tblKeywords WHERE Not CardID=" + id);
+        EXPECT_GE(keywords->RecordCount(), 20) << id;
+    }
+}
+
+TEST_F(DeckTest, EveryPictureIsACompleteCardSizedPicture) {
+    for (rs->MoveFirst(); !rs->Eof(); rs->MoveNext()) {
+        Picture picture;
+        ASSERT_TRUE(modImageDB::LoadPictureFromField(picture, *rs, "PictureData"));
+        EXPECT_EQ(picture.descriptor, "card " + rs->Field("ID").AsString());
+        const auto& bytes = *picture.bytes;
+        EXPECT_GT(bytes.size(), 5000u);
+        EXPECT_LT(bytes.size(), 100000u);
+        QImage image;
+        ASSERT_TRUE(image.loadFromData(reinterpret_cast<const uchar*>(bytes.data()),
+                                       static_cast<int>(bytes.size())))
+            << picture.descriptor;
+        EXPECT_EQ(image.size(), QSize(234, 400)); // 70 x 120 mm
+    }
+}
+
+TEST_F(DeckTest, ReportSelectionMatchesTheFullSelection) {
+    std::shared_ptr<Recordset> all;
+    OpenRecordset(all, cn, "SELECT * FROM tblCards");
+    ASSERT_EQ(all->RecordCount(), rs->RecordCount());
+    for (all->MoveFirst(), rs->MoveFirst(); !all->Eof(); all->MoveNext(), rs->MoveNext())
+        EXPECT_EQ(all->Field("ID").AsLong(), rs->Field("ID").AsLong());
+}
+
+} // namespace

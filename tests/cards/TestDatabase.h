@@ -1,0 +1,69 @@
+#pragma once
+// Small card databases written by the tests into a folder of their own.
+#include <sqlite3.h>
+
+#include <filesystem>
+#include <stdexcept>
+#include <string>
+#include <vector>
+
+namespace cardtest {
+
+class TempFolder {
+public:
+    TempFolder() {
+        std::string pattern =
+            (std::filesystem::temp_directory_path() / "quillane-cards-XXXXXX").string();
+        std::vector<char> buffer(pattern.begin(), pattern.end());
+        buffer.push_back('\0');
+        if (!mkdtemp(buffer.data()))
+            throw std::runtime_error("mkdtemp failed");
+        path_ = buffer.data();
+    }
+    ~TempFolder() {
+        std::error_code ec;
+        std::filesystem::remove_all(path_, ec);
+    }
+    const std::filesystem::path& Path() const { return path_; }
+    std::string File(const std::string& name) const { return (path_ / name).string(); }
+
+private:
+    std::filesystem::path path_;
+};
+
+// Runs SQL statements against a new database file at `path`.
+inline void MakeDatabase(const std::string& path, const std::vector<std::string>& statements) {
+    sqlite3* db = nullptr;
+    if (sqlite3_open(path.c_str(), &db) != SQLITE_OK)
+        throw std::runtime_error("cannot create test database");
+    for (const std::string& sql : statements) {
+        char* error = nullptr;
+        if (sqlite3_exec(db, sql.c_str(), nullptr, nullptr, &error) != SQLITE_OK) {
+            std::string why = error ? error : "?";
+            sqlite3_free(error);
+            sqlite3_close(db);
+            throw std::runtime_error(why + " in " + sql);
+        }
+    }
+    sqlite3_close(db);
+}
+
+// Six cards over the five groups, with keywords that include an exact
+// duplicate row (card 2) and a keyword shared by two cards ("change").
+inline std::vector<std::string> SmallDeck() {
+    return {
+        "CREATE TABLE tblCards (ID INTEGER PRIMARY KEY, Name TEXT, \"Group\" INTEGER, "
+        "normalmeaning TEXT, reversedmeaning TEXT, PictureData BLOB)",
+        "CREATE TABLE tblKeywords (CardID INTEGER, Keyword TEXT)",
+        "INSERT INTO tblCards VALUES (1, 'The Fool', 0, 'up 1', 'down 1', x'89504E470D0A1A0A0001')",
+        "INSERT INTO tblCards VALUES (2, 'The Magician', 0, 'up 2', 'down 2', x'FFD8FF00')",
+        "INSERT INTO tblCards VALUES (5, 'Ace of Cups', 1, 'up 5', 'down 5', NULL)",
+        "INSERT INTO tblCards VALUES (3, 'Ace of Wands', 2, 'up 3', 'down 3', x'')",
+        "INSERT INTO tblCards VALUES (9, 'Ace of Pentacles', 3, 'up 9', 'down 9', x'0102030405')",
+        "INSERT INTO tblCards VALUES (12, 'Ace of Swords', 4, 'up 12', 'down 12', x'474946383961')",
+        "INSERT INTO tblKeywords VALUES (1, 'beginnings'), (1, 'change'), (2, 'skill'), "
+        "(2, 'skill'), (2, 'will'), (5, 'love'), (5, 'change')",
+    };
+}
+
+} // namespace cardtest

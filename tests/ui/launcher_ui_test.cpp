@@ -1,0 +1,153 @@
+// The real launcher on the offscreen platform: clicks on its widgets reach the
+// forms, and the widgets follow the forms.
+#include "DriveSession.h"
+#include "drive/RecordingServices.h"
+#include "platform/DesktopServices.h"
+#include "platform/IniSettingsStore.h"
+#include "shell/StartUp.h"
+#include "ui/FormHost.h"
+#include "ui/Windows.h"
+
+#include <QAbstractButton>
+#include <QApplication>
+#include <QLabel>
+#include <QMainWindow>
+#include <QMdiArea>
+#include <QMdiSubWindow>
+#include <QMenuBar>
+#include <QTest>
+#include <gtest/gtest.h>
+
+using namespace quillane;
+
+namespace {
+
+struct LauncherUi : ::testing::Test {
+    static void SetUpTestSuite() {
+        static int argc = 1;
+        static char name[] = "ui_test";
+        static char* argv[] = {name, nullptr};
+        if (!QApplication::instance())
+            new QApplication(argc, argv);
+    }
+
+    quillane::testing::ScratchDir dir;
+    drive::RecordingMessageBox messageBox;
+    drive::RecordingBrowser browser;
+    drive::DriverClock clock{Date(2026, 4, 1), 7};
+    drive::DriverLocale locale;
+    IniSettingsStore settings{QString::fromStdString(dir.Str())};
+    ProgramFolder folder{QString::fromStdString(dir.Str()), "quillane", ""};
+    drive::FixedInstanceLock lock{false};
+    drive::FixedScreen screen;
+    std::unique_ptr<Application> app;
+    std::unique_ptr<ui::FormHost> host;
+
+    void SetUp() override {
+        Services s;
+        s.messageBox = &messageBox;
+        s.browser = &browser;
+        s.clock = &clock;
+        s.locale = &locale;
+        s.settings = &settings;
+        s.folder = &folder;
+        s.instanceLock = &lock;
+        s.screen = &screen;
+        app = std::make_unique<Application>(s);
+        RegisterProgram(*app);
+        host = std::make_unique<ui::FormHost>(*app);
+        ui::RegisterWindows(*host);
+        app->SetHost(host.get());
+        app->Dispatch([this] { StartUp(*app); });
+    }
+    void TearDown() override {
+        app->SetHost(nullptr);
+        host.reset();
+        app.reset();
+    }
+
+    QMainWindow* Main() const { return host->MainWindow(); }
+    template <class W> W* Widget(const char* name) const { return Main()->findChild<W*>(name); }
+    QStringList MenuTitles() const {
+        QStringList titles;
+        for (QAction* a : Main()->menuBar()->actions())
+            titles << a->text();
+        return titles;
+    }
+};
+
+} // namespace
+
+TEST_F(LauncherUi, ShowsTheLauncherWithItsTextsAndMenus) {
+    ASSERT_NE(Main(), nullptr);
+    EXPECT_TRUE(Main()->isVisible());
+    EXPECT_EQ(Main()->windowTitle(), "Quillane v1.20");
+    EXPECT_EQ(Widget<QAbstractButton>("cmdSelectOption(2)")->text(), "Learn Tarot");
+    EXPECT_EQ(Widget<QLabel>("lblCaption(0)")->text(), "Welcome to Quillane");
+    EXPECT_TRUE(Widget<QWidget>("picMain")->isVisible());
+    EXPECT_EQ(MenuTitles(), (QStringList{"&File", "&Help"}));
+    QMenu* help = Main()->menuBar()->actions().at(1)->menu();
+    ASSERT_NE(help, nullptr);
+    QStringList entries;
+    for (QAction* a : help->actions())
+        entries << (a->isSeparator() ? "-" : a->text());
+    EXPECT_EQ(entries,
+              (QStringList{"&Online Help", "&Visit Us Online", "-", "Check for Software &Update",
+                           "-", "&About Software", "Make Money &Online"}));
+}
+
+TEST_F(LauncherUi, AButtonOpensItsSubjectInsideTheLauncher) {
+    QTest::mouseClick(Widget<QAbstractButton>("cmdSelectOption(1)"), Qt::LeftButton);
+    auto* mdi = Widget<QMdiArea>("mdiArea");
+    ASSERT_EQ(mdi->subWindowList().size(), 1);
+    EXPECT_EQ(mdi->subWindowList().first()->windowTitle(), "Quillane Learn Numerology");
+    EXPECT_FALSE(Widget<QWidget>("picMain")->isVisible());
+    EXPECT_TRUE(mdi->isVisible());
+    EXPECT_NE(app->Find("frmLearnNumerologyMain"), nullptr);
+
+    // The subject's menus take the menu bar's place.
+    QMenu* file = nullptr;
+    for (QAction* a : Main()->menuBar()->actions())
+        if (a->text() == "&File")
+            file = a->menu();
+    ASSERT_NE(file, nullptr);
+    EXPECT_EQ(file->objectName(), "mnuFile");
+    EXPECT_EQ(file->actions().first()->text(), "E&xit");
+    file->actions().first()->trigger();
+    QCoreApplication::processEvents();
+    EXPECT_EQ(app->Find("frmLearnNumerologyMain"), nullptr);
+    EXPECT_TRUE(Widget<QWidget>("picMain")->isVisible())
+        << "closing a subject brings the welcome back";
+    EXPECT_EQ(Main()->menuBar()->actions().size(), 2);
+}
+
+TEST_F(LauncherUi, SubjectLabelsOpenAndUnderlineUnderTheMouse) {
+    auto* label = Widget<QLabel>("lblCaption(6)");
+    QTest::mouseMove(label);
+    QMouseEvent move(QEvent::MouseMove, QPointF(5, 5), label->mapToGlobal(QPointF(5, 5)),
+                     Qt::NoButton, Qt::NoButton, Qt::NoModifier);
+    QApplication::sendEvent(label, &move);
+    EXPECT_TRUE(app->Find("frmMDI")->Find("lblCaption(6)")->FontUnderline());
+    EXPECT_TRUE(label->property("underline").toBool());
+    EXPECT_TRUE(label->font().underline());
+    QMouseEvent leave(QEvent::MouseMove, QPointF(2, 2), QPointF(2, 2), Qt::NoButton, Qt::NoButton,
+                      Qt::NoModifier);
+    QApplication::sendEvent(Widget<QWidget>("picMain"), &leave);
+    EXPECT_FALSE(label->font().underline());
+
+    QTest::mouseClick(label, Qt::LeftButton);
+    EXPECT_NE(app->Find("frmLearnRunesMain"), nullptr);
+    // Closing the sub-window with its title bar runs the form's unload.
+    Widget<QMdiArea>("mdiArea")->subWindowList().first()->close();
+    QCoreApplication::processEvents();
+    EXPECT_EQ(app->Find("frmLearnRunesMain"), nullptr);
+    EXPECT_TRUE(Widget<QWidget>("picMain")->isVisible());
+}
+
+TEST_F(LauncherUi, LinksGoToTheBrowser) {
+    QTest::mouseClick(Widget<QLabel>("lblZenthoraBanner"), Qt::LeftButton);
+    QTest::mouseClick(Widget<QLabel>("Label7"), Qt::LeftButton);
+    EXPECT_EQ(browser.opened,
+              (std::vector<std::string>{"https://www.zenthora.net/",
+                                        "https://www.zenthora.net/fully-branded.html"}));
+}
