@@ -32,7 +32,25 @@ Binder::Binder(Application& app, Form& form, QWidget* root)
 }
 
 Binder::~Binder() {
+    Detach();
+}
+
+void Binder::Detach() {
+    if (detached_)
+        return;
+    detached_ = true;
     form_.SetObserver(nullptr);
+    // Widgets may be gone already when the window is being deleted.
+    for (const QPointer<QWidget>& widget : std::as_const(widgets_))
+        if (widget) {
+            widget->removeEventFilter(this);
+            disconnect(widget, nullptr, this, nullptr);
+        }
+    for (QAction* action : std::as_const(actions_))
+        disconnect(action, nullptr, this, nullptr);
+    widgets_.clear();
+    controlOf_.clear();
+    actions_.clear();
 }
 
 QString Binder::LabelText(const std::string& caption) {
@@ -52,7 +70,7 @@ QString Binder::LabelText(const std::string& caption) {
 }
 
 void Binder::Act(const std::function<void()>& action) {
-    if (app_.Ended())
+    if (detached_ || app_.Ended())
         return;
     app_.Dispatch(action);
 }
@@ -65,7 +83,10 @@ void Binder::Bind(Control& control, QWidget* widget) {
         button->setAutoExclusive(false);
         connect(button, &QAbstractButton::clicked, this, [this, c] {
             Act([c] { c->UserClick(); });
-            Refresh(*c); // the model, not the widget, decides the checked state
+            // The model, not the widget, decides the checked state; the click
+            // may have closed the form.
+            if (!detached_)
+                Refresh(*c);
         });
     } else if (auto* combo = qobject_cast<QComboBox*>(widget)) {
         connect(combo, &QComboBox::activated, this, [this, c](int index) {
@@ -181,6 +202,9 @@ void Binder::Refresh(Control& control) {
     if (!widget)
         return;
     updating_ = true;
+    if (control.InFront())
+        if (auto* stack = qobject_cast<QStackedWidget*>(widget->parentWidget()))
+            stack->setCurrentWidget(widget);
     if (!control.Stack() && widget != widget->window())
         widget->setVisible(control.Visible());
     widget->setEnabled(control.Enabled());

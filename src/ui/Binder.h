@@ -19,6 +19,10 @@ public:
     Binder(Application& app, Form& form, QWidget* root);
     ~Binder() override;
 
+    // Lets go of the form, which is closing: the window may still receive
+    // events until it is deleted, and they must not reach the form.
+    void Detach();
+
     // The top-level menus built from the form's menu entries.
     const QList<QMenu*>& Menus() const { return menus_; }
     QWidget* WidgetFor(const Control& control) const { return widgets_.value(&control); }
@@ -40,11 +44,12 @@ private:
     Application& app_;
     Form& form_;
     QWidget* root_;
-    QHash<const Control*, QWidget*> widgets_;
+    QHash<const Control*, QPointer<QWidget>> widgets_;
     QHash<QObject*, Control*> controlOf_;
     QHash<const Control*, QAction*> actions_;
     QList<QMenu*> menus_;
     bool updating_ = false;
+    bool detached_ = false;
 };
 
 } // namespace quillane::ui

@@ -77,7 +77,8 @@ void FormHost::FormUnloaded(Form& form) {
         return;
     Window w = it->second;
     windows_.erase(it);
-    form.SetObserver(nullptr);
+    if (w.binder)
+        w.binder->Detach();
     closingFromModel_ = true;
     if (auto* dialog = qobject_cast<QDialog*>(w.frame.data()))
         dialog->done(0);

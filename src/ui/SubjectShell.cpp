@@ -18,16 +18,13 @@ QLabel* Link(Form& form, const std::string& name) {
 }
 } // namespace
 
-QWidget* BuildSubjectShell(Form& form) {
+QWidget* BuildSubjectShell(Form& form, QWidget* body) {
     auto* window = new QWidget;
     window->setObjectName(QString::fromStdString(form.Name()));
     window->setStyleSheet("QLabel[role=\"link\"] { color: #1f4fa8; font-size: 8.5pt; }"
                           "QFrame#fraFullBrand { border-top: 1px solid #c8c2b0; }");
     auto* column = new QVBoxLayout(window);
     column->setContentsMargins(14, 14, 14, 10);
-    auto* body = new QWidget;
-    body->setObjectName("body");
-    body->setMinimumSize(760, 480);
     column->addWidget(body, 1);
 
     // The links that stand below the panels in every state.
@@ -53,9 +50,10 @@ QWidget* BuildSubjectShell(Form& form) {
 void RegisterWindows(FormHost& host) {
     host.RegisterWindow("frmMDI", BuildLauncher);
     host.RegisterWindow("frmAbout", BuildAbout);
-    for (const char* subject : {"frmLearnAstrologyMain", "frmLearnNumerologyMain",
-                                "frmLearnTarotMain", "frmLearnRunesMain"})
-        host.RegisterWindow(subject, BuildSubjectShell);
+    host.RegisterWindow("frmLearnAstrologyMain", BuildAstrologyWindow);
+    host.RegisterWindow("frmLearnNumerologyMain", BuildNumerologyWindow);
+    host.RegisterWindow("frmLearnTarotMain", BuildTarotWindow);
+    host.RegisterWindow("frmLearnRunesMain", BuildRunesWindow);
 }
 
 } // namespace quillane::ui

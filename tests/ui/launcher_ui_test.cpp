@@ -151,3 +151,15 @@ TEST_F(LauncherUi, LinksGoToTheBrowser) {
               (std::vector<std::string>{"https://www.zenthora.net/",
                                         "https://www.zenthora.net/fully-branded.html"}));
 }
+
+TEST_F(LauncherUi, ASubjectClosedByItsOwnButtonLeavesNothingBehind) {
+    // The click closes the form that owns the button; the window goes later.
+    QTest::mouseClick(Widget<QAbstractButton>("cmdSelectOption(2)"), Qt::LeftButton);
+    auto* exit = Main()->findChild<QAbstractButton*>("cmdNav(1)");
+    ASSERT_NE(exit, nullptr);
+    QTest::mouseClick(exit, Qt::LeftButton);
+    QCoreApplication::processEvents();
+    EXPECT_EQ(app->Find("frmLearnTarotMain"), nullptr);
+    EXPECT_TRUE(Widget<QMdiArea>("mdiArea")->subWindowList().isEmpty());
+    EXPECT_TRUE(Widget<QWidget>("picMain")->isVisible());
+}
