@@ -84,6 +84,8 @@ void FormHost::FormUnloaded(Form& form) {
         dialog->done(0);
     if (w.frame && w.frame != main_) {
         w.frame->hide();
+        if (auto* sub = qobject_cast<QMdiSubWindow*>(w.frame.data()); sub && mdi_)
+            mdi_->removeSubWindow(sub);
         w.frame->deleteLater();
     }
     closingFromModel_ = false;
