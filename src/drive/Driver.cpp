@@ -1,6 +1,7 @@
 #include "Driver.h"
 
 #include "Inspect.h"
+#include "cards/modImageDB.h"
 #include "common/Errors.h"
 #include "platform/DesktopServices.h"
 #include "platform/IniSettingsStore.h"
@@ -131,6 +132,7 @@ Driver::Driver(const DriverOptions& options) : platform_(std::make_unique<Platfo
     services.tray = &p.tray;
     services.pictures = &p.pictures;
     services.screen = &p.screen;
+    modImageDB::SetDecoder(&p.pictures);
     app_ = std::make_unique<Application>(services);
     RegisterProgram(*app_);
     TheGenerator().SetClock([&clock = p.clock] { return clock.Timer(); });
@@ -138,7 +140,9 @@ Driver::Driver(const DriverOptions& options) : platform_(std::make_unique<Platfo
         TheGenerator().Reset(std::uint64_t(*options.seed) * 0x9E3779B97F4A7C15ULL + 1);
 }
 
-Driver::~Driver() = default;
+Driver::~Driver() {
+    modImageDB::SetDecoder(nullptr);
+}
 
 std::optional<std::string> Driver::Execute(const std::string& raw) {
     std::string line = raw;

@@ -1,26 +1,20 @@
 #include "StartUp.h"
-#include "astrology/frmLearnAstrologyMain.h"
+#include "astrology/RegisterAstrology.h"
 #include "frmAbout.h"
 #include "frmMDI.h"
-#include "numerology/frmLearnNumerologyMain.h"
-#include "runes/frmLearnRunesMain.h"
-#include "tarot/frmLearnTarotMain.h"
+#include "numerology/RegisterNumerology.h"
+#include "runes/RegisterRunes.h"
+#include "tarot/RegisterTarot.h"
 
 namespace quillane {
 
-namespace {
-template <class F> void Register(Application& app, const char* name) {
-    app.RegisterForm(name, [](Application& a) { return std::make_unique<F>(a); });
-}
-} // namespace
-
 void RegisterProgram(Application& app) {
-    Register<frmMDI>(app, "frmMDI");
-    Register<frmAbout>(app, "frmAbout");
-    Register<frmLearnAstrologyMain>(app, "frmLearnAstrologyMain");
-    Register<frmLearnNumerologyMain>(app, "frmLearnNumerologyMain");
-    Register<frmLearnTarotMain>(app, "frmLearnTarotMain");
-    Register<frmLearnRunesMain>(app, "frmLearnRunesMain");
+    app.RegisterForm("frmMDI", [](Application& a) { return std::make_unique<frmMDI>(a); });
+    app.RegisterForm("frmAbout", [](Application& a) { return std::make_unique<frmAbout>(a); });
+    RegisterAstrology(app);
+    RegisterNumerology(app);
+    RegisterTarot(app);
+    RegisterRunes(app);
 }
 
 } // namespace quillane

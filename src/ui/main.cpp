@@ -2,6 +2,7 @@
 #include "FormHost.h"
 #include "QtServices.h"
 #include "Windows.h"
+#include "cards/modImageDB.h"
 #include "platform/DesktopServices.h"
 #include "platform/IniSettingsStore.h"
 #include "shell/StartUp.h"
@@ -45,6 +46,7 @@ int main(int argc, char** argv) {
     services.pictures = &pictures;
     services.screen = &screen;
 
+    modImageDB::SetDecoder(&pictures);
     Application app(services);
     RegisterProgram(app);
     TheGenerator().SetClock([&clock] { return clock.Timer(); });
@@ -56,5 +58,7 @@ int main(int argc, char** argv) {
     if (app.Ended())
         return 0;
     messageBox.SetParent(host.MainWindow());
-    return QApplication::exec();
+    const int status = QApplication::exec();
+    modImageDB::SetDecoder(nullptr);
+    return status;
 }

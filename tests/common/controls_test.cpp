@@ -125,3 +125,26 @@ TEST_F(Fixture, UnloadIsCancelledByTheForm) {
     EXPECT_FALSE(app.Unload("frmStubborn"));
     EXPECT_NE(app.Find("frmStubborn"), nullptr);
 }
+
+TEST(Dispatch, AFatalFailureShowsOneBoxNamingTheFileAndEnds) {
+    struct Box : IMessageBox {
+        std::vector<std::string> texts;
+        MsgIcon icon = MsgIcon::None;
+        MsgAnswer Show(const std::string& text, const std::string& title, MsgIcon i,
+                       MsgButtons) override {
+            texts.push_back(title + "|" + text);
+            icon = i;
+            return MsgAnswer::Ok;
+        }
+    } box;
+    Services services;
+    services.messageBox = &box;
+    Application app(services);
+    app.Dispatch(
+        [] { throw FatalError("/opt/quillane/learn.dll", "The card database cannot be found."); });
+    ASSERT_EQ(box.texts.size(), 1u);
+    EXPECT_NE(box.texts[0].find("Quillane|The card database cannot be found."), std::string::npos);
+    EXPECT_NE(box.texts[0].find("/opt/quillane/learn.dll"), std::string::npos);
+    EXPECT_EQ(box.icon, MsgIcon::Critical);
+    EXPECT_TRUE(app.Ended());
+}
