@@ -16,7 +16,9 @@ template <class Goal> bool IsGoalArrayInitialised(const VBArray<Goal>& goals) {
     return goals.IsInitialised();
 }
 
-inline bool IsInLongArray(std::int32_t value, const VBArray<std::int32_t>& array) {
+// True when the array has bounds and an element equals the value, scanning
+// from the lower to the upper bound.
+template <class T> bool IsInArray(const T& value, const VBArray<T>& array) {
     if (!array.IsInitialised())
         return false;
     for (long i = array.LBound(); i <= array.UBound(); ++i)
@@ -25,14 +27,12 @@ inline bool IsInLongArray(std::int32_t value, const VBArray<std::int32_t>& array
     return false;
 }
 
-// An unset element is the empty string, so "" is found in any array with bounds.
+inline bool IsInLongArray(std::int32_t value, const VBArray<std::int32_t>& array) { return IsInArray(value, array); }
+
+// By exact comparison; an unset element is the empty string, so "" is found
+// in any array with bounds.
 inline bool IsInStringArray(const std::string& value, const VBArray<std::string>& array) {
-    if (!array.IsInitialised())
-        return false;
-    for (long i = array.LBound(); i <= array.UBound(); ++i)
-        if (array(i) == value)
-            return true;
-    return false;
+    return IsInArray(value, array);
 }
 
 } // namespace quillane::modGlobals
