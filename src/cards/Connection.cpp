@@ -113,6 +113,7 @@ Recordset Connection::Query(const std::string& sql) const {
     }
     int columns = sqlite3_column_count(stmt);
     std::vector<std::string> names;
+    names.reserve(std::size_t(columns));
     for (int c = 0; c < columns; ++c)
         names.emplace_back(sqlite3_column_name(stmt, c));
     std::vector<std::vector<Value>> rows;

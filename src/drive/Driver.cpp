@@ -355,7 +355,7 @@ std::string Driver::Set(const std::string& path, const std::string& value) {
     const auto parts = SplitPath(path);
     if (parts.size() < 3)
         return Error("unknown: " + path);
-    const std::string property = parts.back();
+    const std::string& property = parts.back();
     Form* form = app_->Find(parts[0]);
     if (!form)
         return app_->IsFormName(parts[0]) ? Error("hidden") : Error("unknown: " + path);

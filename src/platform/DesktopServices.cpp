@@ -10,7 +10,7 @@
 
 namespace quillane {
 
-LockFileInstance::LockFileInstance(QString program) {
+LockFileInstance::LockFileInstance(const QString& program) {
     QString dir = QStandardPaths::writableLocation(QStandardPaths::RuntimeLocation);
     if (dir.isEmpty())
         dir = QDir::tempPath();

@@ -13,7 +13,7 @@ namespace quillane {
 // One lock per user and program, in the user's runtime folder.
 class LockFileInstance : public IInstanceLock {
 public:
-    explicit LockFileInstance(QString program);
+    explicit LockFileInstance(const QString& program);
     bool AnotherInstanceRunning() override;
 
 private:
