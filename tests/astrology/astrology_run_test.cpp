@@ -1,0 +1,263 @@
+// The test's rules without a window: the order of the questions, the choices
+// of a question, the report and its score, over many seeded runs.
+#include "astrology/AstrologyRun.h"
+#include "astrology/modLearnAstrology.h"
+#include "common/Random.h"
+
+#include <gtest/gtest.h>
+
+#include <algorithm>
+#include <array>
+#include <numeric>
+#include <string>
+#include <vector>
+
+using namespace quillane;
+using namespace quillane::astrology;
+namespace mla = quillane::modLearnAstrology;
+
+namespace {
+
+struct Category {
+    int main;
+    int sub;
+    long rows;
+};
+// Signs by dates, planets by keywords, houses by name: columns whose rows all
+// differ, so that a text tells its row.
+const Category kCategories[] = {{0, 1, 12}, {1, 2, 10}, {2, 0, 12}};
+
+RunState NewRun(int main, int sub) {
+    RunState run;
+    run.intMainIndex = std::int16_t(main);
+    run.intSubIndex = std::int16_t(sub);
+    run.strMainCaption = "Main";
+    run.strSubCaption = "Sub";
+    return run;
+}
+
+std::string Joined(const std::vector<ReportPiece>& pieces) {
+    std::string all;
+    for (const auto& p : pieces)
+        all += p.text;
+    return all;
+}
+
+} // namespace
+
+TEST(AstrologyRun, TheSetUpAsksEveryRowOnceInManyOrders) {
+    for (const Category& cat : kCategories) {
+        std::vector<std::vector<std::int16_t>> orders;
+        std::array<int, 12> firstRowCount{};
+        for (std::uint64_t seed = 1; seed <= 400; ++seed) {
+            TheGenerator().Reset(seed);
+            RunState run = NewRun(cat.main, cat.sub);
+            SetUpTest(run);
+            ASSERT_EQ(run.intOrder.UBound(), cat.rows);
+            ASSERT_EQ(run.strCorrect.UBound(), cat.rows);
+            ASSERT_EQ(run.strUserAnswer.UBound(), cat.rows);
+            ASSERT_EQ(run.strValues.UBound(), cat.rows);
+            std::vector<std::int16_t> asked(run.intOrder.Items().begin(),
+                                            run.intOrder.Items().end() - 1);
+            std::vector<std::int16_t> sorted = asked;
+            std::sort(sorted.begin(), sorted.end());
+            std::vector<std::int16_t> all(std::size_t(cat.rows));
+            std::iota(all.begin(), all.end(), std::int16_t(0));
+            ASSERT_EQ(sorted, all) << "seed " << seed << ": not a permutation of all rows";
+            // The spare entry is never drawn into; strCorrect goes by question.
+            EXPECT_EQ(run.intOrder(cat.rows), 0);
+            EXPECT_EQ(run.strCorrect(cat.rows), "");
+            for (long q = 0; q < cat.rows; ++q) {
+                EXPECT_EQ(run.strCorrect(q), run.strValues(run.intOrder(q)));
+                EXPECT_EQ(run.strUserAnswer(q), "");
+            }
+            ++firstRowCount[std::size_t(asked[0])];
+            orders.push_back(asked);
+        }
+        std::sort(orders.begin(), orders.end());
+        EXPECT_GT(std::unique(orders.begin(), orders.end()) - orders.begin(), 390)
+            << "orders barely vary";
+        // With redraws every row can be the first question.
+        for (long r = 0; r < cat.rows; ++r)
+            EXPECT_GT(firstRowCount[std::size_t(r)], 0) << "row " << r << " never asked first";
+    }
+}
+
+TEST(AstrologyRun, TheSetUpCopiesTheChosenColumns) {
+    TheGenerator().Reset(7);
+    RunState run = NewRun(1, 7); // planets, "Ruler for House"
+    SetUpTest(run);
+    EXPECT_EQ(run.strValues(2),
+              "9th House - The House of Travel\r\n12th House - The House of Shortcomings");
+    EXPECT_EQ(run.strNames(2), "Jupiter");
+    EXPECT_EQ(run.strValues(10), "");
+
+    RunState houses = NewRun(2, 99); // beyond the list: the last column
+    CopyRunColumns(houses);
+    EXPECT_EQ(houses.strValues(0), "Angular House (Action)");
+    EXPECT_EQ(houses.strNames(0), "Aries") << "house names are sign names";
+}
+
+TEST(AstrologyRun, WrongChoicesComeFromTheFirstFiveRows) {
+    int sawOwnPositionHit = 0, sawDouble = 0;
+    for (std::uint64_t seed = 1; seed <= 3000; ++seed) {
+        TheGenerator().Reset(seed);
+        const auto right = std::int16_t(seed % 12);
+        const auto choice = DrawChoices(right);
+        ASSERT_EQ(choice[5], -1) << "entry 5 is never used";
+        std::vector<std::int16_t> shown(choice.begin(), choice.begin() + 5);
+        const auto rightCount = std::count(shown.begin(), shown.end(), right);
+        for (std::int16_t row : shown)
+            ASSERT_TRUE((row >= 0 && row <= 4) || row == right) << "seed " << seed;
+        if (right >= 5) {
+            ASSERT_EQ(rightCount, 1) << "seed " << seed;
+            std::vector<std::int16_t> others;
+            for (std::int16_t row : shown)
+                if (row != right)
+                    others.push_back(row);
+            std::sort(others.begin(), others.end());
+            ASSERT_EQ(std::unique(others.begin(), others.end()), others.end())
+                << "the four wrong rows differ";
+        } else {
+            // Either the right row stands twice, or the overwrite hit its own
+            // place and the choices are just rows 0 to 4.
+            std::vector<std::int16_t> sorted = shown;
+            std::sort(sorted.begin(), sorted.end());
+            if (rightCount == 1) {
+                ASSERT_EQ(sorted, (std::vector<std::int16_t>{0, 1, 2, 3, 4}));
+                ++sawOwnPositionHit;
+            } else {
+                ASSERT_EQ(rightCount, 2) << "seed " << seed;
+                ++sawDouble;
+            }
+        }
+    }
+    EXPECT_GT(sawOwnPositionHit, 0);
+    EXPECT_GT(sawDouble, sawOwnPositionHit) << "a hit on its own place is the rarer case";
+}
+
+TEST(AstrologyRun, DrawsRoundToTheNearestSoTheEndsComeUpHalfAsOften) {
+    // Where the right answer lands is one draw over 0 to 4: positions 0 and 4
+    // have odds 1/8, positions 1 to 3 odds 1/4. Truncating would never give 4.
+    std::array<int, 5> landed{};
+    const int runs = 16000;
+    for (int seed = 1; seed <= runs; ++seed) {
+        TheGenerator().Reset(std::uint64_t(seed) * 7919);
+        const auto choice = DrawChoices(9);
+        for (int c = 0; c < 5; ++c)
+            if (choice[std::size_t(c)] == 9)
+                ++landed[std::size_t(c)];
+    }
+    const double expected[5] = {0.125, 0.25, 0.25, 0.25, 0.125};
+    for (int c = 0; c < 5; ++c)
+        EXPECT_NEAR(double(landed[std::size_t(c)]) / runs, expected[c], 0.015) << "position " << c;
+
+    // The same rule over 0 to 11 gives every row, the ends half as often.
+    std::array<int, 12> drawn{};
+    TheGenerator().Reset(99);
+    for (int i = 0; i < 44000; ++i) {
+        const std::int16_t d = DrawOver(11);
+        ASSERT_TRUE(d >= 0 && d <= 11);
+        ++drawn[std::size_t(d)];
+    }
+    EXPECT_NEAR(drawn[0] / 44000.0, 0.5 / 11, 0.006);
+    EXPECT_NEAR(drawn[11] / 44000.0, 0.5 / 11, 0.006);
+    EXPECT_NEAR(drawn[5] / 44000.0, 1.0 / 11, 0.008);
+}
+
+TEST(AstrologyRun, TheReportLooksUpTheCorrectAnswerByTheRowAsked) {
+    // Question 0 asks about row 3, question 3 about row 7: the report of
+    // question 0 prints and compares the value at row 7.
+    RunState run = NewRun(0, 1); // signs by dates
+    run.strMainCaption = "Test By Signs";
+    run.strSubCaption = "Dates";
+    CopyRunColumns(run);
+    const std::vector<std::int16_t> order = {3, 1, 2, 7, 4, 5, 6, 0, 8, 9, 10, 11};
+    run.intOrder.ReDim(12);
+    run.strCorrect.ReDim(12);
+    run.strUserAnswer.ReDim(12);
+    for (long q = 0; q < 12; ++q) {
+        run.intOrder(q) = order[std::size_t(q)];
+        run.strCorrect(q) = run.strValues(order[std::size_t(q)]);
+        // Every answer is true to the table.
+        run.strUserAnswer(q) = run.strValues(order[std::size_t(q)]);
+    }
+    const auto pieces = ResultPieces(run);
+    const std::string text = Joined(pieces);
+    const std::string firstQuestion =
+        "Question: Cancer\r\nCorrect Answer: " + mla::strSignDates[7] +
+        "\r\nYour Answer: " + mla::strSignDates[3] + "\r\n\r\n";
+    EXPECT_EQ(text.rfind("Quillane Learn Astrology Result\r\n\r\nTest By Signs - Dates\r\n\r\n" +
+                             firstQuestion,
+                         0),
+              0u)
+        << text.substr(0, 300);
+    // Rows asked by their own question number (1, 2, 4, 5, 6, 8 to 11) score;
+    // rows 3, 7 and 0 do not.
+    EXPECT_EQ(ResultScore(run), 9);
+    EXPECT_TRUE(text.ends_with("\r\n\r\n9 Correct out of 12 Questions")) << text;
+
+    // Answering with the report's own "Correct Answer" scores every question.
+    for (long q = 0; q < 12; ++q)
+        run.strUserAnswer(q) = run.strCorrect(run.intOrder(q));
+    EXPECT_EQ(ResultScore(run), 12);
+}
+
+TEST(AstrologyRun, ATrueAnswerScoresOnlyWhereTheRowIsItsOwnQuestion) {
+    for (const Category& cat : kCategories) {
+        for (std::uint64_t seed = 1; seed <= 200; ++seed) {
+            TheGenerator().Reset(seed * 31);
+            RunState run = NewRun(cat.main, cat.sub);
+            SetUpTest(run);
+            int fixedPoints = 0;
+            for (long q = 0; q < cat.rows; ++q) {
+                run.strUserAnswer(q) = run.strValues(run.intOrder(q));
+                fixedPoints += run.intOrder(q) == q;
+            }
+            ASSERT_EQ(ResultScore(run), fixedPoints) << "seed " << seed;
+            ASSERT_TRUE(Joined(ResultPieces(run))
+                            .ends_with(std::to_string(fixedPoints) + " Correct out of " +
+                                       std::to_string(cat.rows) + " Questions"));
+        }
+    }
+}
+
+TEST(AstrologyRun, TheReportsBoldRunsAreTheHeadingsAndLabels) {
+    TheGenerator().Reset(3);
+    RunState run = NewRun(1, 0); // planets by glyph: 10 questions
+    SetUpTest(run);
+    for (long q = 0; q < 10; ++q)
+        run.strUserAnswer(q) = "Sun";
+    const auto pieces = ResultPieces(run);
+    std::vector<std::string> bold, plain;
+    for (const auto& p : pieces)
+        (p.bold ? bold : plain).push_back(p.text);
+    ASSERT_EQ(bold.size(), 2u + 10 * 3 + 1);
+    ASSERT_EQ(plain.size(), 10u * 2);
+    EXPECT_EQ(bold[0], "Quillane Learn Astrology Result\r\n\r\n");
+    EXPECT_EQ(bold[1], "Main - Sub\r\n\r\n");
+    for (long q = 0; q < 10; ++q) {
+        const auto row = run.intOrder(q);
+        EXPECT_EQ(bold[std::size_t(2 + 3 * q)],
+                  "Question: " + mla::strPlanet[std::size_t(row)] + "\r\n");
+        EXPECT_EQ(bold[std::size_t(3 + 3 * q)], "Correct Answer: ");
+        EXPECT_EQ(bold[std::size_t(4 + 3 * q)], "Your Answer: ");
+        EXPECT_EQ(plain[std::size_t(2 * q)], run.strCorrect(row) + "\r\n");
+        EXPECT_EQ(plain[std::size_t(2 * q + 1)], "Sun\r\n\r\n");
+    }
+    EXPECT_TRUE(bold.back().ends_with(" Correct out of 10 Questions"));
+}
+
+TEST(AstrologyRun, TheDriverSeesNoArraysBeforeARun) {
+    RunState run;
+    const Json before = RunVariables(run);
+    for (const char* name : {"strValues", "strNames", "intOrder", "strCorrect", "strUserAnswer"})
+        EXPECT_TRUE(before.Find(name)->IsNull()) << name;
+    EXPECT_EQ(before.Find("intCurrent")->AsInt(), 0);
+    TheGenerator().Reset(5);
+    run = NewRun(0, 9);
+    SetUpTest(run);
+    const Json after = RunVariables(run);
+    EXPECT_EQ(after.Find("intOrder")->AsArray().size(), 13u);
+    EXPECT_EQ(after.Find("strValues")->AsArray()[4].AsString(), "8 && 9");
+}
