@@ -8,6 +8,8 @@
 #include <QEvent>
 #include <QLabel>
 #include <QLineEdit>
+#include <QMainWindow>
+#include <QMdiSubWindow>
 #include <QMenu>
 #include <QPlainTextEdit>
 #include <QStackedWidget>
@@ -184,6 +186,15 @@ void Binder::Update(Control& control, Prop prop) {
     if (&control == &form_.Me()) {
         if (prop == Prop::Caption)
             root_->setWindowTitle(QString::fromStdString(control.Caption()));
+        // A form the program hides: its frame (the launcher's sub-window for a
+        // child) goes from view; showing it again goes through FormShown.
+        if (prop == Prop::Visible && !control.Visible()) {
+            QWidget* frame = qobject_cast<QMdiSubWindow*>(root_->parentWidget())
+                                 ? root_->parentWidget()
+                                 : root_;
+            if (!qobject_cast<QMainWindow*>(frame))
+                frame->hide();
+        }
         return;
     }
     if (control.Stack()) {

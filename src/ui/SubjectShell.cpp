@@ -54,6 +54,7 @@ void RegisterWindows(FormHost& host) {
     host.RegisterWindow("frmLearnNumerologyMain", BuildNumerologyWindow);
     host.RegisterWindow("frmLearnTarotMain", BuildTarotWindow);
     host.RegisterWindow("frmLearnRunesMain", BuildRunesWindow);
+    host.RegisterWindow("frmLearnRunesMeaningTest", BuildRunesMeaningTestWindow);
 }
 
 } // namespace quillane::ui

@@ -15,6 +15,7 @@ QWidget* BuildAstrologyWindow(Form& form);
 QWidget* BuildNumerologyWindow(Form& form);
 QWidget* BuildTarotWindow(Form& form);
 QWidget* BuildRunesWindow(Form& form);
+QWidget* BuildRunesMeaningTestWindow(Form& form);
 
 // Registers the window of every form.
 void RegisterWindows(FormHost& host);

@@ -1,0 +1,108 @@
+// The keyword test of the Runes window: 24 questions, one per stone, scored
+// by text against the drawn right keywords, and the result report.
+#include "frmLearnRunesMain.h"
+
+#include "runes/ResumeNext.h"
+#include "runes/modLearnRunesTest.h"
+
+namespace quillane {
+
+using namespace modLearnRunesTest;
+using runes::Resume;
+
+void frmLearnRunesMain::BuildTestPanels() {
+    lblCaption.SetCaption("You must choose only 1 Keyword");
+    lblTestStone.SetCaption("Stone Name");
+    picTest.SetPicture({});
+    for (int i = 0; i <= 7; ++i)
+        chkKeywords(i).SetCaption("Keywords");
+    cmdNextQuestion.SetCaption("Next");
+    Label1.SetCaption("Quillane Learn Runes Result");
+}
+
+void frmLearnRunesMain::chkKeywords_Click(int Index) {
+    Resume([&] {
+        if (chkKeywords(Index).Value() == 1)
+            ++intKeywordTicks;
+    });
+    // The count only moves the focus; it decides nothing else.
+    Resume([&] {
+        if ((intTestLevel == 1 && intKeywordTicks == 4) ||
+            (intTestLevel == 0 && intKeywordTicks == 1))
+            cmdNextQuestion.SetFocus();
+    });
+}
+
+void frmLearnRunesMain::cmdNextQuestion_Click() {
+    intTicked = 0;
+    intKeywordTicks = 0;
+    auto load = [&] {
+        Resume([&] {
+            LoadKeywordQuestion(
+                {chkKeywords, nullptr, lblCaption, lblIndex, lblTestStone, picTest});
+        });
+    };
+    if (intQuestionNumber == 0) {
+        intQuestionNumber = 1;
+        load();
+        return;
+    }
+    if (intQuestionNumber == 24) {
+        // The ticks of the last question are neither checked nor scored.
+        ShowKeywordReport();
+        return;
+    }
+    const bool advanced = intTestLevel != 0;
+    const int shown = advanced ? 8 : 5;
+    const int rights = advanced ? 4 : 1;
+    for (int i = 0; i < shown; ++i)
+        Resume([&] {
+            if (chkKeywords(i).Value() == 1)
+                ++intTicked;
+        });
+    if (advanced) {
+        if (intTicked != 4) {
+            App().MsgBox("You can select 4 options", MsgButtons::Ok, MsgIcon::Critical);
+            return;
+        }
+        // Follows the test above and so is never reached.
+        if (intTicked == 0) {
+            App().MsgBox("You must select 4 options", MsgButtons::Ok, MsgIcon::Critical);
+            return;
+        }
+    } else {
+        if (intTicked > 1) {
+            App().MsgBox("You can select 1 option", MsgButtons::Ok, MsgIcon::Critical);
+            return;
+        }
+        if (intTicked == 0) {
+            App().MsgBox("You must select 1 option", MsgButtons::Ok, MsgIcon::Critical);
+            return;
+        }
+    }
+    intCorrect = 0;
+    // By text: a tick counts once for every right entry that bears its text.
+    for (int i = 0; i < shown; ++i)
+        for (int j = 0; j < rights; ++j)
+            Resume([&] {
+                if (chkKeywords(i).Value() == 1 && chkKeywords(i).Caption() == strCorrectKeyword(j))
+                    ++intCorrect;
+            });
+    Resume([&] {
+        strTestResult(intQuestionNumber - 1) =
+            std::to_string(intCorrect) + (advanced ? " Correct Out of 4" : " Correct Out of 1");
+    });
+    intTotalCorrect = std::int16_t(intTotalCorrect + intCorrect);
+    intQuestionNumber = std::int16_t(intQuestionNumber + 1);
+    load();
+}
+
+void frmLearnRunesMain::ShowKeywordReport() {
+    Resume([&] { txtResult.SetText(""); });
+    Resume([&] { txtResult.SetText(TestReport("Keywords")); });
+    intCorrect = 0;
+    intTotalCorrect = 0;
+    Resume([&] { ShowPanel(picTestResult); });
+}
+
+} // namespace quillane

@@ -1,0 +1,106 @@
+// The goal notes' file format: encodings both ways, lines, and replacement
+// that leaves the old file whole when it fails.
+#include "common/Errors.h"
+#include "runes/GoalFiles.h"
+#include "runes/ResumeNext.h"
+
+#include "DriveSession.h"
+
+#include <gtest/gtest.h>
+
+#include <fstream>
+#include <iterator>
+
+namespace {
+
+using namespace quillane;
+using namespace quillane::runes;
+
+std::string Slurp(const std::filesystem::path& path) {
+    std::ifstream in(path, std::ios::binary);
+    return {std::istreambuf_iterator<char>(in), std::istreambuf_iterator<char>()};
+}
+void Spit(const std::filesystem::path& path, const std::string& bytes) {
+    std::ofstream(path, std::ios::binary) << bytes;
+}
+
+TEST(GoalEncoding, TextsRoundTripThroughTheirFileBytes) {
+    struct Case {
+        std::string text;  // UTF-8
+        std::string bytes; // as written
+    };
+    const Case cases[] = {
+        {"plain ASCII\r\n", "plain ASCII\r\n"},
+        {"caf\xC3\xA9 na\xC3\xAFve\r\n", "caf\xE9 na\xEFve\r\n"},                   // é ï
+        {"\xE2\x82\xAC 5 \xE2\x80\x94 ok\r\n", "\x80 5 \x97 ok\r\n"},               // € —
+        {"rune \xE1\x9A\xA0 fehu\r\n", "rune \xE1\x9A\xA0 fehu\r\n"},               // ᚠ: UTF-8
+        {"\xE2\x82\xAC and \xE1\x9A\xA0\r\n", "\xE2\x82\xAC and \xE1\x9A\xA0\r\n"}, // mixed
+    };
+    for (const Case& c : cases) {
+        EXPECT_EQ(EncodeFileText(c.text), c.bytes) << c.text;
+        EXPECT_EQ(DecodeFileText(c.bytes), c.text) << c.text;
+    }
+}
+
+TEST(GoalEncoding, AnyBytesGiveText) {
+    // Not valid UTF-8: every byte is taken as Windows-1252.
+    const std::string bytes("\xFF\xFE\x00x\x81\xC3", 6);
+    EXPECT_FALSE(IsValidUtf8(bytes));
+    const std::string text = DecodeFileText(bytes);
+    EXPECT_TRUE(IsValidUtf8(text));
+    EXPECT_EQ(text, std::string("\xC3\xBF\xC3\xBE\x00x\xC2\x81\xC3\x83", 10));
+    EXPECT_EQ(EncodeFileText(text), bytes) << "and they go back unchanged";
+    for (const char* bad : {"\xC0\xAF", "\xED\xA0\x80", "\xE2\x82", "\xF5\x80\x80\x80"})
+        EXPECT_FALSE(IsValidUtf8(bad)) << "overlong, surrogate, cut short, beyond Unicode";
+    EXPECT_EQ(DecodeFileText("\xEF\xBB\xBFGoal"), "Goal") << "a byte order mark is dropped";
+}
+
+TEST(GoalFile, LinesEndAtAnyLineEnd) {
+    quillane::testing::ScratchDir dir;
+    const auto path = dir.Path() / "Goal1.txt";
+    const std::pair<std::string, std::vector<std::string>> cases[] = {
+        {"", {}},
+        {"one\r\n", {"one"}},
+        {"one\r\n\r\n", {"one", ""}},
+        {"one\rtwo\nthree", {"one", "two", "three"}},
+        {"  lead and trail  \r\n", {"  lead and trail  "}},
+    };
+    for (const auto& [bytes, lines] : cases) {
+        Spit(path, bytes);
+        EXPECT_EQ(ReadLines(path.string()), lines);
+    }
+}
+
+TEST(GoalFile, ReplacingWritesTheBytesAndFailsWithoutHarm) {
+    quillane::testing::ScratchDir dir;
+    const auto path = dir.Path() / "Goal2.txt";
+    ReplaceFile(path.string(), "na\xC3\xAFve\r\n");
+    EXPECT_EQ(Slurp(path), "na\xEFve\r\n");
+    EXPECT_FALSE(std::filesystem::exists(path.string() + ".saving"));
+
+    // A folder in the file's place can be neither read nor replaced; the
+    // failures are run-time errors that resume-next skips.
+    const auto blocked = dir.Path() / "Goal1.txt";
+    std::filesystem::create_directory(blocked);
+    EXPECT_THROW(ReadLines(blocked.string()), RuntimeError);
+    EXPECT_THROW(ReplaceFile(blocked.string(), "x\r\n"), RuntimeError);
+    EXPECT_TRUE(std::filesystem::is_directory(blocked));
+    EXPECT_FALSE(std::filesystem::exists(blocked.string() + ".saving"));
+    EXPECT_THROW(ReplaceFile((dir.Path() / "missing" / "Goal1.txt").string(), "x"), RuntimeError);
+    EXPECT_THROW(ReadLines((dir.Path() / "none.txt").string()), RuntimeError);
+}
+
+TEST(ResumeNext, SkipsAFailingStatementAndGoesOn) {
+    int reached = 0;
+    EXPECT_FALSE(Resume([&] { throw RuntimeError(9, "Subscript out of range"); }));
+    EXPECT_FALSE(Resume([&] { throw std::out_of_range("at"); }));
+    EXPECT_TRUE(Resume([&] { ++reached; }));
+    auto handler = Guard([&] {
+        ++reached;
+        throw RuntimeError(53, "File not found");
+    });
+    EXPECT_NO_THROW(handler());
+    EXPECT_EQ(reached, 2);
+}
+
+} // namespace

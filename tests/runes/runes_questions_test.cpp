@@ -1,0 +1,284 @@
+// The question builders and the report of the rune tests, in process: drawn
+// over many seeds, each question must keep the properties that the tests'
+// scoring relies on, odd ones included.
+#include "common/Application.h"
+#include "common/Random.h"
+#include "runes/modLearnRunes.h"
+#include "runes/modLearnRunesTest.h"
+
+#include <gtest/gtest.h>
+
+#include <algorithm>
+#include <set>
+#include <string>
+
+namespace {
+
+using namespace quillane;
+using namespace quillane::modLearnRunesTest;
+using modLearnRunes::strKeyword;
+using modLearnRunes::strMarkstaveMeaning;
+using modLearnRunes::strNormalMeaning;
+using modLearnRunes::strReverseMeaning;
+using modLearnRunes::strStoneName;
+
+// A form that only holds the controls a question is written into.
+class QuestionForm : public Form {
+public:
+    explicit QuestionForm(Application& app)
+        : Form(app, "QuestionForm"), frames(AddArray(ControlKind::Frame, "shaMeaning", 0, 7)),
+          choices(AddArray(ControlKind::CheckBox, "chkMeaning", 0, 7)),
+          caption(Add(ControlKind::Label, "lblCaption")),
+          number(Add(ControlKind::Label, "lblIndex")),
+          stone(Add(ControlKind::Label, "lblTestStone")),
+          picture(Add(ControlKind::PictureBox, "picTest")) {}
+    ControlArray frames, choices;
+    Control &caption, &number, &stone, &picture;
+    QuestionView View() { return {choices, &frames, caption, number, stone, picture}; }
+};
+
+class Questions : public ::testing::Test {
+protected:
+    void SetUp() override {
+        modLearnRunes::LoadRuneTables();
+        for (int i = 0; i <= 3; ++i)
+            blnStoneType(i) = 0;
+    }
+    void Seed(int seed) { TheGenerator().Reset(std::uint64_t(seed) * 7919 + 17); }
+    // Every box ticked beforehand, so that the builder must clear them.
+    void TickAll() {
+        for (int i = 0; i <= 7; ++i)
+            form.choices(i).SetValue(1);
+    }
+    std::set<std::string> Keywords(int stone) {
+        return {strKeyword[4 * stone], strKeyword[4 * stone + 1], strKeyword[4 * stone + 2],
+                strKeyword[4 * stone + 3]};
+    }
+    Application app{Services{}};
+    QuestionForm form{app};
+};
+
+TEST_F(Questions, StoneOrderIsAPermutationOfAllStones) {
+    for (int seed = 0; seed < 300; ++seed) {
+        Seed(seed);
+        intStoneOrder(24) = 77; // entry 24 is not the order's
+        DrawStoneOrder();
+        std::set<int> seen;
+        for (int i = 0; i <= 23; ++i) {
+            ASSERT_GE(intStoneOrder(i), 0);
+            ASSERT_LE(intStoneOrder(i), 23);
+            seen.insert(intStoneOrder(i));
+        }
+        ASSERT_EQ(seen.size(), 24u) << "seed " << seed;
+        ASSERT_EQ(intStoneOrder(24), 77);
+    }
+}
+
+TEST_F(Questions, StoneOrdersDifferFromSeedToSeed) {
+    std::set<std::vector<std::int16_t>> orders;
+    for (int seed = 0; seed < 20; ++seed) {
+        Seed(seed);
+        DrawStoneOrder();
+        orders.insert(intStoneOrder.Items());
+    }
+    EXPECT_GT(orders.size(), 15u);
+}
+
+TEST_F(Questions, BeginnerKeywordQuestion) {
+    for (int seed = 0; seed < 400; ++seed) {
+        Seed(seed);
+        DrawStoneOrder();
+        intTestLevel = 0;
+        intQuestionNumber = std::int16_t(1 + seed % 24);
+        TickAll();
+        LoadKeywordQuestion(
+            {form.choices, nullptr, form.caption, form.number, form.stone, form.picture});
+        const int s = intStoneOrder(intQuestionNumber - 1);
+        EXPECT_EQ(form.caption.Caption(), "You must choose only 1 option");
+        EXPECT_EQ(form.number.Caption(), "Question " + std::to_string(intQuestionNumber));
+        EXPECT_EQ(form.stone.Caption(), strStoneName[s]);
+        EXPECT_EQ(form.picture.Picture().Describe(), "IMG " + std::to_string(s + 1));
+        ASSERT_EQ(strCorrectKeyword.UBound(), 1);
+        ASSERT_EQ(strKeywordOption.UBound(), 5);
+        EXPECT_TRUE(Keywords(s).count(strCorrectKeyword(0)));
+        int right = 0;
+        for (int i = 0; i <= 7; ++i) {
+            const Control& box = form.choices(i);
+            EXPECT_EQ(box.Value(), 0);
+            EXPECT_EQ(box.Visible(), i < 5);
+            if (i < 5) {
+                EXPECT_EQ(box.Caption(), strKeywordOption(i));
+                right += box.Caption() == strCorrectKeyword(0);
+            }
+        }
+        // Wrong choices are kept out by text, so the right one stands once.
+        EXPECT_EQ(right, 1) << "seed " << seed;
+    }
+}
+
+TEST_F(Questions, AdvancedKeywordQuestionShowsOneRightBox) {
+    bool repeatedRight = false, missedKeyword = false, twinWrong = false;
+    for (int seed = 0; seed < 400; ++seed) {
+        Seed(seed);
+        DrawStoneOrder();
+        intTestLevel = 1;
+        intQuestionNumber = std::int16_t(24 - seed % 24);
+        TickAll();
+        LoadKeywordQuestion(
+            {form.choices, nullptr, form.caption, form.number, form.stone, form.picture});
+        const int s = intStoneOrder(intQuestionNumber - 1);
+        EXPECT_EQ(form.caption.Caption(), "You must choose 4 options");
+        ASSERT_EQ(strCorrectKeyword.UBound(), 4);
+        ASSERT_EQ(strKeywordOption.UBound(), 8);
+        std::set<std::string> rights;
+        for (int j = 0; j <= 3; ++j) {
+            EXPECT_TRUE(Keywords(s).count(strCorrectKeyword(j)));
+            rights.insert(strCorrectKeyword(j));
+        }
+        EXPECT_EQ(strCorrectKeyword(4), "");
+        repeatedRight = repeatedRight || rights.size() < 4;
+        missedKeyword = missedKeyword || rights.size() < Keywords(s).size();
+        int rightBoxes = 0;
+        std::string placed;
+        std::set<std::string> captions;
+        for (int i = 0; i <= 7; ++i) {
+            EXPECT_TRUE(form.choices(i).Visible());
+            EXPECT_EQ(form.choices(i).Value(), 0);
+            const std::string& caption = form.choices(i).Caption();
+            if (rights.count(caption)) {
+                ++rightBoxes;
+                placed = caption;
+            }
+            twinWrong = twinWrong || !captions.insert(caption).second;
+        }
+        EXPECT_EQ(rightBoxes, 1) << "seed " << seed;
+        EXPECT_EQ(placed, strCorrectKeyword(3)) << "the last right keyword is the one placed";
+    }
+    EXPECT_TRUE(repeatedRight) << "independent draws repeat a keyword now and then";
+    EXPECT_TRUE(missedKeyword);
+    EXPECT_TRUE(twinWrong) << "wrong choices are not kept apart from one another";
+}
+
+TEST_F(Questions, CorrectMeaningFollowsTheTickedPositions) {
+    struct Case {
+        std::array<int, 3> flags;
+        std::array<bool, 3> allowed; // normal, reverse, merkstave tables
+    };
+    const Case cases[] = {
+        {{1, 0, 0}, {true, false, false}}, {{0, 1, 0}, {false, true, false}},
+        {{0, 0, 1}, {false, false, true}}, {{1, 1, 0}, {true, true, false}},
+        {{1, 1, 1}, {true, true, true}},
+    };
+    for (const Case& c : cases) {
+        for (int i = 0; i <= 2; ++i)
+            blnStoneType(i) = std::int16_t(c.flags[std::size_t(i)] ? -1 : 0);
+        std::array<bool, 3> seen{};
+        for (int seed = 0; seed < 300; ++seed) {
+            Seed(seed);
+            const std::string text = DrawCorrectMeaning();
+            const auto in = [&](const std::array<std::string, 25>& table) {
+                return std::find(table.begin(), table.begin() + 24, text) != table.begin() + 24;
+            };
+            const std::array<bool, 3> found{in(strNormalMeaning), in(strReverseMeaning),
+                                            in(strMarkstaveMeaning)};
+            bool ok = false;
+            for (int t = 0; t <= 2; ++t)
+                if (found[std::size_t(t)] && c.allowed[std::size_t(t)]) {
+                    ok = true;
+                    // Only the texts of one table alone tell which was drawn.
+                    if (!found[std::size_t((t + 1) % 3)] && !found[std::size_t((t + 2) % 3)])
+                        seen[std::size_t(t)] = true;
+                }
+            ASSERT_TRUE(ok) << text;
+        }
+        // The merkstave texts of their own are too few to be sure of a draw.
+        for (int t = 0; t <= 1; ++t) {
+            if (c.allowed[std::size_t(t)]) {
+                EXPECT_TRUE(seen[std::size_t(t)]) << "table " << t << " never drawn";
+            }
+        }
+    }
+    for (int i = 0; i <= 2; ++i)
+        blnStoneType(i) = 0;
+    EXPECT_EQ(DrawCorrectMeaning(), "") << "no position ticked leaves the text empty";
+}
+
+TEST_F(Questions, MeaningQuestionsPlaceTheFirstRightText) {
+    blnStoneType(1) = -1; // reversed only
+    bool unreversible = false;
+    for (int level = 0; level <= 1; ++level) {
+        for (int seed = 0; seed < 300; ++seed) {
+            Seed(seed);
+            DrawStoneOrder();
+            intTestLevel = std::int16_t(level);
+            intMeaningQuestionNumber = std::int16_t(1 + seed % 24);
+            TickAll();
+            LoadMeaningQuestion(form.View());
+            const int shown = level ? 8 : 5;
+            const int s = intStoneOrder(intMeaningQuestionNumber - 1);
+            EXPECT_EQ(form.stone.Caption(), strStoneName[s]);
+            EXPECT_EQ(form.caption.Caption(),
+                      level ? "You must choose 4 options" : "You must choose only 1 option");
+            int first = 0;
+            for (int i = 0; i <= 7; ++i) {
+                EXPECT_EQ(form.choices(i).Visible(), i < shown);
+                EXPECT_EQ(form.frames(i).Visible(), i < shown);
+                EXPECT_EQ(form.choices(i).Value(), 0);
+                if (i >= shown)
+                    continue;
+                const std::string& caption = form.choices(i).Caption();
+                first += caption == strCorrectKeyword(0);
+            }
+            EXPECT_EQ(first, 1) << "the first right text stands exactly once";
+            for (int j = 0; j <= (level ? 3 : 0); ++j) {
+                const auto& table = strReverseMeaning;
+                EXPECT_NE(std::find(table.begin(), table.begin() + 24, strCorrectKeyword(j)),
+                          table.begin() + 24);
+                unreversible =
+                    unreversible || strCorrectKeyword(j) == "This rune cannot be reversed.";
+            }
+        }
+    }
+    EXPECT_TRUE(unreversible) << "a stone that cannot be reversed still gives a right text";
+}
+
+TEST_F(Questions, FlagsAreOnlyEverSetByTheCaller) {
+    // The builders read the flags and never write them.
+    blnStoneType(0) = -1;
+    Seed(5);
+    DrawStoneOrder();
+    intMeaningQuestionNumber = 3;
+    LoadMeaningQuestion(form.View());
+    EXPECT_EQ(blnStoneType.Items(), (std::vector<std::int16_t>{-1, 0, 0, 0}));
+}
+
+TEST(RuneReport, RowsRuleAndTotalByLevel) {
+    modLearnRunes::LoadRuneTables();
+    for (int i = 0; i <= 23; ++i) {
+        intStoneOrder(i) = std::int16_t(23 - i);
+        strTestResult(i) = std::to_string(i % 2) + " Correct Out of 1";
+    }
+    strTestResult(23) = "1 Correct Out of 1"; // never printed
+    intTotalCorrect = 10;
+    intTestLevel = 0;
+    const std::string beginner = TestReport("Descriptions");
+    std::string expected;
+    for (int i = 0; i <= 23; ++i) {
+        const std::string name = strStoneName[23 - i];
+        expected += (i < 9 ? "0" : "") + std::to_string(i + 1) + "." + std::string(10, ' ') + name +
+                    std::string(30 - name.size(), ' ') +
+                    (i < 23 ? strTestResult(i) : "0 Correct Out of 1") + "\r\n";
+    }
+    expected += std::string(99, '-') + "\r\n" + "10 Correct Out Of  24 Descriptions";
+    EXPECT_EQ(beginner, expected);
+    EXPECT_EQ(beginner.substr(0, 52), "01.          Othala                        0 Correct");
+
+    intTestLevel = 1;
+    intTotalCorrect = 7;
+    const std::string advanced = TestReport("Keywords");
+    EXPECT_NE(advanced.find("24.          Fehu                          0 Correct Out of 4\r\n"),
+              std::string::npos);
+    EXPECT_TRUE(advanced.ends_with("\r\n7 Correct Out Of  96 Keywords"));
+}
+
+} // namespace
