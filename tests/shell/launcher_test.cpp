@@ -60,6 +60,18 @@ TEST(Launcher, SwitchingSubjectsKeepsOneOpen) {
     EXPECT_EQ(a[6], "false");
 }
 
+TEST(Launcher, PressingTheOpenSubjectStartsItAfresh) {
+    // A test half done is gone, with no question asked.
+    auto a = Launch({"click frmMDI.cmdSelectOption(0)", "click frmLearnAstrologyMain.optOption(1)",
+                     "click frmLearnAstrologyMain.cmdNext", "get frmLearnAstrologyMain.Frame3.InFront",
+                     "click frmMDI.cmdSelectOption(0)", "get frmLearnAstrologyMain.Frame1.InFront",
+                     "get frmLearnAstrologyMain.optOption(0).Value", "msgbox"});
+    EXPECT_EQ(a[3], "true");
+    EXPECT_EQ(a[5], "true");
+    EXPECT_EQ(a[6], "true");
+    EXPECT_EQ(a[7], "null");
+}
+
 TEST(Launcher, TheWelcomeTextsAreNotLinks) {
     auto a = Launch({"click frmMDI.lblCaption(0)", "click frmMDI.lblCaption(1)",
                      "click frmMDI.lblCaption(2)", "forms", "get frmMDI.picMain.Visible",
