@@ -5,6 +5,7 @@
 #include <QDesktopServices>
 #include <QFileDialog>
 #include <QMessageBox>
+#include <QPainter>
 #include <QPrinter>
 #include <QPrinterInfo>
 #include <QScreen>
@@ -55,7 +56,14 @@ bool DefaultPrinter::Print(const std::vector<TextRun>& document) {
     if (QPrinterInfo::defaultPrinter().isNull())
         return false;
     QPrinter printer(QPrinterInfo::defaultPrinter());
+    return PrintDocument(printer, document);
+}
+
+bool PrintDocument(QPrinter& printer, const std::vector<TextRun>& document) {
     QTextDocument doc;
+    QFont font = doc.defaultFont();
+    font.setPointSizeF(10);
+    doc.setDefaultFont(font);
     QTextCursor cursor(&doc);
     for (const auto& run : document) {
         QTextCharFormat format;
@@ -64,7 +72,30 @@ bool DefaultPrinter::Print(const std::vector<TextRun>& document) {
             format.setFontPointSize(run.pointSize);
         cursor.insertText(QString::fromStdString(run.text).replace("\r\n", "\n"), format);
     }
-    doc.print(&printer);
+    // The text is laid out at the screen's resolution in pages of the
+    // printer's printable area, with a margin of a centimetre, and drawn
+    // scaled to the printer. The page carries what was sent and nothing more:
+    // no page numbers.
+    const QScreen* screen = QGuiApplication::primaryScreen();
+    const qreal screenDpi = screen ? screen->logicalDotsPerInch() : 96.0;
+    const qreal scale = printer.resolution() / screenDpi;
+    const QRectF area = printer.pageRect(QPrinter::DevicePixel);
+    const QSizeF page(area.width() / scale, area.height() / scale);
+    doc.setDocumentMargin(screenDpi / 2.54);
+    doc.setPageSize(page);
+    QPainter painter;
+    if (!painter.begin(&printer))
+        return false;
+    painter.scale(scale, scale);
+    for (int index = 0; index < doc.pageCount(); ++index) {
+        if (index > 0 && !printer.newPage())
+            return false;
+        painter.save();
+        painter.translate(0, -index * page.height());
+        doc.drawContents(&painter, QRectF(QPointF(0, index * page.height()), page));
+        painter.restore();
+    }
+    painter.end();
     return printer.printerState() != QPrinter::Error;
 }
 

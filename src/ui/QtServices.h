@@ -3,6 +3,7 @@
 // the save dialog, the clock and the screen's size.
 #include "common/Services.h"
 
+class QPrinter;
 class QWidget;
 
 namespace quillane::ui {
@@ -27,6 +28,10 @@ class DefaultPrinter : public IPrinter {
 public:
     bool Print(const std::vector<TextRun>& document) override;
 };
+
+// Lays the runs out as one flowing document and prints it on the given
+// printer (a real one, or a PDF file). False when the printer failed.
+bool PrintDocument(QPrinter& printer, const std::vector<TextRun>& document);
 
 class FileSaveDialog : public ISaveDialog {
 public:

@@ -1,0 +1,206 @@
+// The learning flow of the Numerology window: the way through the panels,
+// the captions each step sets, the study walks and their messages.
+#include "NumerologyFixture.h"
+
+using quillane::testing::NumerologyWindow;
+namespace num = quillane::modLearnNumerology;
+
+namespace {
+
+using NumerologyFlow = NumerologyWindow;
+
+// The study text of a subject by significance, as the panel must show it.
+std::string SignificanceText(int s) {
+    return "Significance\r\n" + num::strSignificance[std::size_t(s)] + "\r\n\r\nCalculation\r\n" +
+           num::strCalculation[std::size_t(s)];
+}
+
+} // namespace
+
+TEST_F(NumerologyFlow, OpensOnTheStartPanelWithItsTexts) {
+    EXPECT_EQ(form->Me().Caption(), "Quillane Learn Numerology");
+    EXPECT_EQ(FrontPanel(), 0);
+    EXPECT_FALSE(C("optMain(0)").Selected());
+    EXPECT_FALSE(C("optMain(1)").Selected());
+    EXPECT_EQ(C("lblCaption(3)").Caption(),
+              "Select one option below and click on the button to continue.");
+    EXPECT_EQ(C("cmdNext").Caption(), "Click Here To Proceed");
+    EXPECT_EQ(C("cmdNextQuestion").Caption(), "Next &Question");
+    EXPECT_EQ(C("cmdPrint").Caption(), "&Print Test Results");
+    for (int i = 0; i <= 14; ++i)
+        EXPECT_EQ(C("chkSubject(" + std::to_string(i) + ")").Caption(),
+                  num::strSubject[std::size_t(i)]);
+    for (const char* link : {"Label14", "lblCobrand", "lblFullBrand"})
+        EXPECT_NO_THROW(C(link)) << link;
+    EXPECT_FALSE(Click("RTB1")) << "the print copy is never shown";
+}
+
+TEST_F(NumerologyFlow, GoingOnWithoutAChoiceGivesAMessageAndStays) {
+    ASSERT_TRUE(Click("cmdNext"));
+    EXPECT_EQ(Message(), "Please select an option");
+    EXPECT_EQ(FrontPanel(), 0);
+    ClickAll({"optMain(0)", "cmdNext", "cmdNext2"});
+    EXPECT_EQ(Message(), "Please select an option");
+    EXPECT_EQ(FrontPanel(), 1);
+    ClickAll({"optOption(1)", "cmdNext2", "cmdNext3"});
+    EXPECT_EQ(Message(), "Please select at least one option");
+    EXPECT_EQ(FrontPanel(), 3);
+    EXPECT_EQ(Message(), "") << "one box each time";
+}
+
+TEST_F(NumerologyFlow, TheOptionsPanelTakesItsCaptionsFromTheChoice) {
+    struct Case {
+        const char* main;
+        const char* frame;
+        const char* first;
+        const char* second;
+        bool learn;
+    };
+    const Case cases[] = {
+        {"optMain(0)", "Learn Options", "Learn By Significance of Numbers",
+         "Learn By Interpretation of Numbers", true},
+        {"optMain(1)", "Test Options", "Test By Significance of Numbers",
+         "Test By Interpretation of Numbers", false},
+    };
+    for (const auto& c : cases) {
+        ClickAll({c.main, "cmdNext"});
+        EXPECT_EQ(FrontPanel(), 1);
+        EXPECT_EQ(C("fraOption(1)").Caption(), c.frame);
+        EXPECT_EQ(C("optOption(0)").Caption(), c.first);
+        EXPECT_EQ(C("optOption(1)").Caption(), c.second);
+        EXPECT_EQ(num::blnLearnMode, c.learn ? -1 : 0);
+        ASSERT_TRUE(Click("cmdBack2"));
+    }
+}
+
+TEST_F(NumerologyFlow, BackFromOptionsClearsEveryChoiceButBackToMainKeepsIt) {
+    ClickAll({"optMain(0)", "cmdNext", "optOption(0)", "cmdBack2"});
+    EXPECT_EQ(FrontPanel(), 0);
+    for (const char* o : {"optMain(0)", "optMain(1)", "optOption(0)", "optOption(1)"})
+        EXPECT_FALSE(C(o).Selected()) << o;
+    ClickAll({"optMain(0)", "cmdNext", "optOption(0)", "cmdNext2", "cmdBackToMain"});
+    EXPECT_EQ(FrontPanel(), 0);
+    EXPECT_TRUE(C("optMain(0)").Selected());
+    // The earlier choices still count, so two clicks lead back to the study.
+    ClickAll({"cmdNext", "cmdNext2"});
+    EXPECT_EQ(FrontPanel(), 2);
+    EXPECT_EQ(Message(), "");
+}
+
+TEST_F(NumerologyFlow, EachOptionLeadsToItsPanel) {
+    struct Case {
+        const char* main;
+        const char* option;
+        int panel;
+        const char* frame;
+    };
+    const Case cases[] = {
+        {"optMain(0)", "optOption(0)", 2, "Learn By Significance"},
+        {"optMain(0)", "optOption(1)", 3, "Learn By Interpretation"},
+        {"optMain(1)", "optOption(0)", 4, "Test By Significance"},
+        {"optMain(1)", "optOption(1)", 3, "Test By Interpretation"},
+    };
+    for (const auto& c : cases) {
+        Open(&printer);
+        ClickAll({c.main, "cmdNext", c.option, "cmdNext2"});
+        EXPECT_EQ(FrontPanel(), c.panel) << c.frame;
+        EXPECT_EQ(C("fraOption(" + std::to_string(c.panel) + ")").Caption(), c.frame);
+    }
+    EXPECT_EQ(C("lblCaption(5)").Caption(),
+              "Select the options which you would like to take the test in.");
+    EXPECT_EQ(C("lblCaption(6)").Caption(),
+              "Select the correct interpretation for the number displayed at the bottom.");
+    Open(&printer);
+    ClickAll({"optMain(0)", "cmdNext", "optOption(1)", "cmdNext2", "cmdBack3"});
+    EXPECT_EQ(FrontPanel(), 1);
+    EXPECT_EQ(C("lblCaption(5)").Caption(), "Select the options which you would like to memorize.");
+}
+
+TEST_F(NumerologyFlow, StudyBySignificanceWalksAllSubjectsAndStopsAtBothEnds) {
+    ClickAll({"optMain(0)", "cmdNext", "optOption(0)", "cmdNext2"});
+    EXPECT_EQ(C("RTBLearn").Text(), SignificanceText(0));
+    EXPECT_EQ(C("lblLearnSubject").Caption(), "Life Path Number");
+    EXPECT_TRUE(C("RTBLearn").BoldText().empty()) << "the study text is plain";
+    ASSERT_TRUE(Click("cmdBackLearn"));
+    EXPECT_EQ(Message(), "You are at the first record");
+    EXPECT_EQ(num::intCurrent, 0);
+    for (int s = 1; s <= 14; ++s) {
+        ASSERT_TRUE(Click("cmdNextLearn"));
+        EXPECT_EQ(num::intCurrent, s);
+        EXPECT_EQ(C("RTBLearn").Text(), SignificanceText(s));
+    }
+    EXPECT_EQ(Message(), "");
+    ASSERT_TRUE(Click("cmdNextLearn"));
+    EXPECT_EQ(Message(), "You are at the last record");
+    EXPECT_EQ(num::intCurrent, 14);
+    EXPECT_EQ(C("lblLearnSubject").Caption(), "Personal Year Number");
+}
+
+TEST_F(NumerologyFlow, StudyByInterpretationVisitsOnlyTheTickedSubjects) {
+    ClickAll({"optMain(0)", "cmdNext", "optOption(1)", "cmdNext2", "chkSubject(5)", "chkSubject(2)",
+              "cmdNext3"});
+    EXPECT_EQ(FrontPanel(), 2);
+    EXPECT_EQ(C("fraOption(2)").Caption(), "Learn By Interpretation");
+    EXPECT_EQ(num::intCurrent, 2);
+    for (int i = 0; i <= 14; ++i)
+        EXPECT_EQ(C("chkSubject(" + std::to_string(i) + ")").Value(), 0) << "boxes are cleared";
+    EXPECT_EQ(num::blnSubjectSelected[2], -1);
+    EXPECT_EQ(num::blnSubjectSelected[5], -1);
+    EXPECT_EQ(num::blnSubjectSelected[4], 0);
+    ASSERT_TRUE(Click("cmdNextLearn"));
+    EXPECT_EQ(num::intCurrent, 5);
+    EXPECT_EQ(Message(), "");
+    ASSERT_TRUE(Click("cmdNextLearn"));
+    EXPECT_EQ(Message(), "You are at the last record");
+    EXPECT_EQ(num::intCurrent, 5);
+    ClickAll({"cmdBackLearn", "cmdBackLearn"});
+    EXPECT_EQ(Message(), "You are at the first record");
+    EXPECT_EQ(num::intCurrent, 2);
+    EXPECT_EQ(C("lblLearnSubject").Caption(), "Soul's Urge/ Heart's Desire Number");
+}
+
+TEST_F(NumerologyFlow, TheWalkRepeatsSilentlyAtTheEndsOfTheTable) {
+    struct Case {
+        int subject;
+        const char* button;
+    };
+    for (const Case c : {Case{14, "cmdNextLearn"}, Case{0, "cmdBackLearn"}}) {
+        Open(&printer);
+        ClickAll({"optMain(0)", "cmdNext", "optOption(1)", "cmdNext2",
+                  "chkSubject(" + std::to_string(c.subject) + ")", "cmdNext3"});
+        const std::string shown = C("RTBLearn").Text();
+        C("RTBLearn").SetText("");
+        ASSERT_TRUE(Click(c.button));
+        EXPECT_EQ(Message(), "") << c.button;
+        EXPECT_EQ(num::intCurrent, c.subject);
+        EXPECT_EQ(C("RTBLearn").Text(), shown) << "the same subject shows again";
+    }
+}
+
+TEST_F(NumerologyFlow, BirthdayStudyShowsItsThirtyOneHeadedParagraphs) {
+    ClickAll({"optMain(0)", "cmdNext", "optOption(1)", "cmdNext2", "chkSubject(4)", "cmdNext3"});
+    std::string expected;
+    for (int row = 44; row <= 74; ++row)
+        expected += "Birthday Number " + std::to_string(row - 43) + "\r\n" +
+                    num::strInterpretation[std::size_t(row)] + "\r\n\r\n";
+    EXPECT_EQ(C("RTBLearn").Text(), expected);
+    EXPECT_EQ(C("RTBLearn").SelStart(), 0) << "the reader starts at the top";
+}
+
+TEST_F(NumerologyFlow, NothingTickedChangesNothing) {
+    num::blnSubjectSelected[3] = -1;
+    ClickAll({"optMain(0)", "cmdNext", "optOption(1)", "cmdNext2", "cmdNext3"});
+    EXPECT_EQ(Message(), "Please select at least one option");
+    EXPECT_EQ(num::blnSubjectSelected[3], -1);
+    EXPECT_EQ(FrontPanel(), 3);
+}
+
+TEST_F(NumerologyFlow, ClosingTheWindowKeepsTheModuleState) {
+    ClickAll({"optMain(0)", "cmdNext", "optOption(0)", "cmdNext2", "cmdNextLearn"});
+    CloseWindow();
+    EXPECT_EQ(num::intCurrent, 1);
+    EXPECT_EQ(num::blnLearnMode, -1);
+    OpenWindow();
+    EXPECT_EQ(FrontPanel(), 0);
+    EXPECT_FALSE(C("optMain(0)").Selected()) << "a new window starts clean";
+}
