@@ -12,6 +12,7 @@
 #include <QMdiSubWindow>
 #include <QMenu>
 #include <QPlainTextEdit>
+#include <QScrollBar>
 #include <QStackedWidget>
 #include <QStyle>
 #include <QTextEdit>
@@ -53,6 +54,7 @@ void Binder::Detach() {
     widgets_.clear();
     controlOf_.clear();
     actions_.clear();
+    richShown_.clear();
 }
 
 QString Binder::LabelText(const std::string& caption) {
@@ -117,6 +119,37 @@ void Binder::Bind(Control& control, QWidget* widget) {
             widget->setCursor(Qt::PointingHandCursor);
     }
     Refresh(control);
+}
+
+void Binder::RefreshRichText(const Control& control, QTextEdit* view) {
+    // Reports grow by appending runs; only the new ones are laid out, so a
+    // long report does not redraw itself once for every piece.
+    std::vector<TextRun>& shown = richShown_[&control];
+    const std::vector<TextRun>& runs = control.Runs();
+    auto same = [](const TextRun& a, const TextRun& b) {
+        return a.bold == b.bold && a.pointSize == b.pointSize && a.text == b.text;
+    };
+    if (shown.size() > runs.size() || !std::equal(shown.begin(), shown.end(), runs.begin(), same)) {
+        view->clear();
+        shown.clear();
+    }
+    QTextCursor cursor(view->document());
+    cursor.movePosition(QTextCursor::End);
+    for (std::size_t i = shown.size(); i < runs.size(); ++i) {
+        QTextCharFormat format;
+        format.setFontWeight(runs[i].bold ? QFont::Bold : QFont::Normal);
+        if (runs[i].pointSize > 0)
+            format.setFontPointSize(runs[i].pointSize);
+        cursor.insertText(QString::fromStdString(runs[i].text).replace("\r\n", "\n"), format);
+    }
+    shown = runs;
+    // The caret counts a line end as two characters; the view as one.
+    const std::string before = control.Text().substr(0, std::size_t(control.SelStart()));
+    const int caret = int(QString::fromStdString(before).replace("\r\n", "\n").size());
+    cursor.setPosition(std::min(caret, view->document()->characterCount() - 1));
+    view->setTextCursor(cursor);
+    if (caret == 0) // a text read from its start opens at its top, margin included
+        view->verticalScrollBar()->setValue(0);
 }
 
 bool Binder::eventFilter(QObject* watched, QEvent* event) {
@@ -189,9 +222,8 @@ void Binder::Update(Control& control, Prop prop) {
         // A form the program hides: its frame (the launcher's sub-window for a
         // child) goes from view; showing it again goes through FormShown.
         if (prop == Prop::Visible && !control.Visible()) {
-            QWidget* frame = qobject_cast<QMdiSubWindow*>(root_->parentWidget())
-                                 ? root_->parentWidget()
-                                 : root_;
+            QWidget* frame =
+                qobject_cast<QMdiSubWindow*>(root_->parentWidget()) ? root_->parentWidget() : root_;
             if (!qobject_cast<QMainWindow*>(frame))
                 frame->hide();
         }
@@ -270,18 +302,7 @@ void Binder::Refresh(Control& control) {
         if (plain->toPlainText() != text)
             plain->setPlainText(text);
     } else if (auto* rich = qobject_cast<QTextEdit*>(widget)) {
-        rich->clear();
-        QTextCursor cursor(rich->document());
-        for (const auto& run : control.Runs()) {
-            QTextCharFormat format;
-            format.setFontWeight(run.bold ? QFont::Bold : QFont::Normal);
-            if (run.pointSize > 0)
-                format.setFontPointSize(run.pointSize);
-            cursor.insertText(QString::fromStdString(run.text).replace("\r\n", "\n"), format);
-        }
-        cursor.setPosition(
-            std::min<int>(int(control.SelStart()), rich->document()->characterCount() - 1));
-        rich->setTextCursor(cursor);
+        RefreshRichText(control, rich);
     }
     updating_ = false;
 }

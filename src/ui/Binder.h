@@ -11,6 +11,7 @@
 
 class QAction;
 class QMenu;
+class QTextEdit;
 
 namespace quillane::ui {
 
@@ -39,6 +40,7 @@ private:
     void BuildMenus();
     void Update(Control& control, Prop prop);
     void Refresh(Control& control);
+    void RefreshRichText(const Control& control, QTextEdit* view);
     void Act(const std::function<void()>& action);
 
     Application& app_;
@@ -48,6 +50,8 @@ private:
     QHash<QObject*, Control*> controlOf_;
     QHash<const Control*, QAction*> actions_;
     QList<QMenu*> menus_;
+    // What each rich text view shows, to append to it rather than redraw.
+    QHash<const Control*, std::vector<TextRun>> richShown_;
     bool updating_ = false;
     bool detached_ = false;
 };
