@@ -52,47 +52,8 @@ void frmLearnRunesMain::cmdNextQuestion_Click() {
         ShowKeywordReport();
         return;
     }
-    const bool advanced = intTestLevel != 0;
-    const int shown = advanced ? 8 : 5;
-    const int rights = advanced ? 4 : 1;
-    for (int i = 0; i < shown; ++i)
-        Resume([&] {
-            if (chkKeywords(i).Value() == 1)
-                ++intTicked;
-        });
-    if (advanced) {
-        if (intTicked != 4) {
-            App().MsgBox("You can select 4 options", MsgButtons::Ok, MsgIcon::Critical);
-            return;
-        }
-        // Follows the test above and so is never reached.
-        if (intTicked == 0) {
-            App().MsgBox("You must select 4 options", MsgButtons::Ok, MsgIcon::Critical);
-            return;
-        }
-    } else {
-        if (intTicked > 1) {
-            App().MsgBox("You can select 1 option", MsgButtons::Ok, MsgIcon::Critical);
-            return;
-        }
-        if (intTicked == 0) {
-            App().MsgBox("You must select 1 option", MsgButtons::Ok, MsgIcon::Critical);
-            return;
-        }
-    }
-    intCorrect = 0;
-    // By text: a tick counts once for every right entry that bears its text.
-    for (int i = 0; i < shown; ++i)
-        for (int j = 0; j < rights; ++j)
-            Resume([&] {
-                if (chkKeywords(i).Value() == 1 && chkKeywords(i).Caption() == strCorrectKeyword(j))
-                    ++intCorrect;
-            });
-    Resume([&] {
-        strTestResult(intQuestionNumber - 1) =
-            std::to_string(intCorrect) + (advanced ? " Correct Out of 4" : " Correct Out of 1");
-    });
-    intTotalCorrect = std::int16_t(intTotalCorrect + intCorrect);
+    if (!ScoreTicks(App(), chkKeywords, intTicked, intQuestionNumber))
+        return;
     intQuestionNumber = std::int16_t(intQuestionNumber + 1);
     load();
 }

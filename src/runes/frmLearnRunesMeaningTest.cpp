@@ -72,47 +72,8 @@ void frmLearnRunesMeaningTest::cmdNextQuestion1_Click() {
         ShowReport();
         return;
     }
-    const bool advanced = intTestLevel != 0;
-    const int shown = advanced ? 8 : 5;
-    const int rights = advanced ? 4 : 1;
-    for (int i = 0; i < shown; ++i)
-        Resume([&] {
-            if (chkMeaning(i).Value() == 1)
-                ++intMeaningTicked;
-        });
-    if (advanced) {
-        if (intMeaningTicked != 4) {
-            App().MsgBox("You can select 4 options", MsgButtons::Ok, MsgIcon::Critical);
-            return;
-        }
-        // Follows the test above and so is never reached.
-        if (intMeaningTicked == 0) {
-            App().MsgBox("You must select 4 options", MsgButtons::Ok, MsgIcon::Critical);
-            return;
-        }
-    } else {
-        if (intMeaningTicked > 1) {
-            App().MsgBox("You can select 1 option", MsgButtons::Ok, MsgIcon::Critical);
-            return;
-        }
-        if (intMeaningTicked == 0) {
-            App().MsgBox("You must select 1 option", MsgButtons::Ok, MsgIcon::Critical);
-            return;
-        }
-    }
-    intCorrect = 0;
-    // By text: a box counts once for every right entry that bears its text.
-    for (int i = 0; i < shown; ++i)
-        for (int j = 0; j < rights; ++j)
-            Resume([&] {
-                if (chkMeaning(i).Value() == 1 && chkMeaning(i).Caption() == strCorrectKeyword(j))
-                    ++intCorrect;
-            });
-    Resume([&] {
-        strTestResult(intMeaningQuestionNumber - 1) =
-            std::to_string(intCorrect) + (advanced ? " Correct Out of 4" : " Correct Out of 1");
-    });
-    intTotalCorrect = std::int16_t(intTotalCorrect + intCorrect);
+    if (!ScoreTicks(App(), chkMeaning, intMeaningTicked, intMeaningQuestionNumber))
+        return;
     intMeaningQuestionNumber = std::int16_t(intMeaningQuestionNumber + 1);
     Resume([&] { LoadQuestion(); });
 }

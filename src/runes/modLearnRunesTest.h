@@ -5,6 +5,7 @@
 // (on the main window) and the meaning test (its own dialog) share it. The
 // question builders draw from the one generator and write the question into
 // the controls that the caller hands over.
+#include "common/Application.h"
 #include "common/Control.h"
 #include "common/Json.h"
 #include "common/VBArray.h"
@@ -63,6 +64,12 @@ void LoadMeaningQuestion(const QuestionView& view);
 std::string DrawCorrectMeaning();
 // A wrong meaning: any position, any stone.
 std::string DrawWrongMeaning();
+
+// Checks the ticks of an answered question against the level (a message and
+// false when their number does not fit), then scores them by text, records the
+// question's result and adds it to intTotalCorrect. Both tests score this way.
+bool ScoreTicks(Application& app, const ControlArray& boxes, std::int16_t& ticked,
+                std::int16_t questionNumber);
 
 // The result report of either test; unit is "Keywords" or "Descriptions".
 std::string TestReport(std::string_view unit);
