@@ -9,6 +9,7 @@
 #include "ui/FormHost.h"
 #include "ui/Windows.h"
 
+#include "DesktopSession.h"
 #include <QAbstractButton>
 #include <QApplication>
 #include <QComboBox>
@@ -21,55 +22,16 @@
 #include <QTest>
 #include <QTextBlock>
 #include <QTextEdit>
+
 #include <gtest/gtest.h>
 
 using namespace quillane;
 
 namespace {
 
-struct AstrologyUi : ::testing::Test {
-    static void SetUpTestSuite() {
-        static int argc = 1;
-        static char name[] = "astrology_ui_test";
-        static char* argv[] = {name, nullptr};
-        if (!QApplication::instance())
-            new QApplication(argc, argv);
-    }
-
-    quillane::testing::ScratchDir dir;
-    drive::RecordingMessageBox messageBox;
-    drive::RecordingBrowser browser;
-    drive::DriverClock clock{Date(2026, 4, 1), 7};
-    drive::DriverLocale locale;
-    IniSettingsStore settings{QString::fromStdString(dir.Str())};
-    ProgramFolder folder{QString::fromStdString(dir.Str()), "quillane", ""};
-    drive::FixedInstanceLock lock{false};
-    drive::FixedScreen screen;
-    std::unique_ptr<Application> app;
-    std::unique_ptr<ui::FormHost> host;
-
+struct AstrologyUi : ::testing::Test, quillane::testing::DesktopSession {
     void SetUp() override {
-        Services s;
-        s.messageBox = &messageBox;
-        s.browser = &browser;
-        s.clock = &clock;
-        s.locale = &locale;
-        s.settings = &settings;
-        s.folder = &folder;
-        s.instanceLock = &lock;
-        s.screen = &screen;
-        app = std::make_unique<Application>(s);
-        RegisterProgram(*app);
-        host = std::make_unique<ui::FormHost>(*app);
-        ui::RegisterWindows(*host);
-        app->SetHost(host.get());
-        app->Dispatch([this] { StartUp(*app); });
         QTest::mouseClick(Widget<QAbstractButton>("cmdSelectOption(0)"), Qt::LeftButton);
-    }
-    void TearDown() override {
-        app->SetHost(nullptr);
-        host.reset();
-        app.reset();
     }
 
     template <class W> W* Widget(const char* name) const {

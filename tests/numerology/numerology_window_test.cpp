@@ -10,6 +10,7 @@
 #include "ui/FormHost.h"
 #include "ui/Windows.h"
 
+#include "DesktopSession.h"
 #include <QAbstractButton>
 #include <QApplication>
 #include <QCheckBox>
@@ -23,59 +24,17 @@
 #include <QTextBlock>
 #include <QTextEdit>
 #include <QTextLayout>
+
 #include <gtest/gtest.h>
 
 using namespace quillane;
 
 namespace {
 
-struct NumerologyUi : ::testing::Test {
-    static void SetUpTestSuite() {
-        static int argc = 1;
-        static char name[] = "numerology_window_test";
-        static char* argv[] = {name, nullptr};
-        if (!QApplication::instance())
-            new QApplication(argc, argv);
-    }
-
-    quillane::testing::ScratchDir dir;
-    drive::RecordingMessageBox messageBox;
-    drive::RecordingBrowser browser;
-    drive::RecordingPrinter printer{true};
-    drive::DriverClock clock{Date(2026, 4, 1), 7};
-    drive::DriverLocale locale;
-    IniSettingsStore settings{QString::fromStdString(dir.Str())};
-    ProgramFolder folder{QString::fromStdString(dir.Str()), "quillane", ""};
-    drive::FixedInstanceLock lock{false};
-    drive::FixedScreen screen;
-    std::unique_ptr<Application> app;
-    std::unique_ptr<ui::FormHost> host;
-
+struct NumerologyUi : ::testing::Test, quillane::testing::DesktopSession {
     void SetUp() override {
         modLearnNumerology::ClearTestState();
-        Services s;
-        s.messageBox = &messageBox;
-        s.browser = &browser;
-        s.printer = &printer;
-        s.clock = &clock;
-        s.locale = &locale;
-        s.settings = &settings;
-        s.folder = &folder;
-        s.instanceLock = &lock;
-        s.screen = &screen;
-        app = std::make_unique<Application>(s);
-        RegisterProgram(*app);
-        host = std::make_unique<ui::FormHost>(*app);
-        ui::RegisterWindows(*host);
-        app->SetHost(host.get());
-        app->Dispatch([this] { StartUp(*app); });
         Click<QAbstractButton>("cmdSelectOption(1)");
-    }
-    void TearDown() override {
-        app->SetHost(nullptr);
-        host.reset();
-        app.reset();
-        modLearnNumerology::ClearTestState();
     }
 
     QWidget* Window() const { return host->WindowOf("frmLearnNumerologyMain"); }

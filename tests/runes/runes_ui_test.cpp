@@ -9,59 +9,24 @@
 #include "ui/FormHost.h"
 #include "ui/Windows.h"
 
+#include "DesktopSession.h"
 #include <QAbstractButton>
 #include <QApplication>
 #include <QLabel>
 #include <QMainWindow>
 #include <QMdiSubWindow>
 #include <QPlainTextEdit>
+
 #include <gtest/gtest.h>
 
 using namespace quillane;
 
 namespace {
 
-struct RunesUi : ::testing::Test {
-    static void SetUpTestSuite() {
-        static int argc = 1;
-        static char name[] = "runes_ui_test";
-        static char* argv[] = {name, nullptr};
-        if (!QApplication::instance())
-            new QApplication(argc, argv);
-    }
-
-    quillane::testing::ScratchDir dir;
-    drive::RecordingMessageBox messageBox;
-    drive::DriverClock clock{Date(2026, 11, 20), 3};
-    drive::DriverLocale locale;
-    IniSettingsStore settings{QString::fromStdString(dir.Str())};
-    ProgramFolder folder{QString::fromStdString(dir.Str()), "quillane", ""};
-    drive::FixedInstanceLock lock{false};
-    drive::FixedScreen screen;
-    std::unique_ptr<Application> app;
-    std::unique_ptr<ui::FormHost> host;
-
+struct RunesUi : ::testing::Test, quillane::testing::DesktopSession {
+    RunesUi() : DesktopSession(Date(2026, 11, 20), 3) {}
     void SetUp() override {
-        Services s;
-        s.messageBox = &messageBox;
-        s.clock = &clock;
-        s.locale = &locale;
-        s.settings = &settings;
-        s.folder = &folder;
-        s.instanceLock = &lock;
-        s.screen = &screen;
-        app = std::make_unique<Application>(s);
-        RegisterProgram(*app);
-        host = std::make_unique<ui::FormHost>(*app);
-        ui::RegisterWindows(*host);
-        app->SetHost(host.get());
-        app->Dispatch([this] { StartUp(*app); });
         host->MainWindow()->findChild<QAbstractButton*>("cmdSelectOption(3)")->click();
-    }
-    void TearDown() override {
-        app->SetHost(nullptr);
-        host.reset();
-        app.reset();
     }
     void Click(const std::string& form, const std::string& control) {
         app->Dispatch([&] { app->Find(form)->Find(control)->UserClick(); });
