@@ -1,4 +1,5 @@
 #include "astrology/AstrologyRun.h"
+#include "common/StateJson.h"
 
 #include "astrology/modLearnAstrology.h"
 #include "common/Numbers.h"
@@ -103,29 +104,13 @@ std::int16_t ResultScore(const RunState& run) {
     return score;
 }
 
-namespace {
-template <class T> Json ArrayJson(const VBArray<T>& array) {
-    if (!array.IsInitialised())
-        return nullptr;
-    Json::Array items;
-    for (const T& item : array.Items())
-        items.emplace_back(item);
-    return items;
-}
-} // namespace
-
 Json RunVariables(const RunState& run) {
     return Json::Object{
-        {"intMainIndex", run.intMainIndex},
-        {"intSubIndex", run.intSubIndex},
-        {"strMainCaption", run.strMainCaption},
-        {"strSubCaption", run.strSubCaption},
-        {"intCurrent", run.intCurrent},
-        {"strValues", ArrayJson(run.strValues)},
-        {"strNames", ArrayJson(run.strNames)},
-        {"intOrder", ArrayJson(run.intOrder)},
-        {"strCorrect", ArrayJson(run.strCorrect)},
-        {"strUserAnswer", ArrayJson(run.strUserAnswer)},
+        {"intMainIndex", run.intMainIndex},       {"intSubIndex", run.intSubIndex},
+        {"strMainCaption", run.strMainCaption},   {"strSubCaption", run.strSubCaption},
+        {"intCurrent", run.intCurrent},           {"strValues", ListJson(run.strValues)},
+        {"strNames", ListJson(run.strNames)},     {"intOrder", ListJson(run.intOrder)},
+        {"strCorrect", ListJson(run.strCorrect)}, {"strUserAnswer", ListJson(run.strUserAnswer)},
     };
 }
 

@@ -1,4 +1,5 @@
 #include "RegisterAstrology.h"
+#include "common/StateJson.h"
 
 #include "astrology/modLearnAstrology.h"
 #include "frmLearnAstrologyMain.h"
@@ -9,51 +10,44 @@ namespace quillane {
 
 namespace {
 
-Json Column(std::span<const std::string> column) {
-    Json::Array rows;
-    for (const std::string& row : column)
-        rows.emplace_back(row);
-    return rows;
-}
-
 // The knowledge base's columns as they stand: empty until a Load routine
 // has filled them.
 Json KnowledgeBase() {
     namespace m = modLearnAstrology;
     return Json::Object{
-        {"strSign", Column(m::strSign)},
-        {"strSignDates", Column(m::strSignDates)},
-        {"strSignNumber", Column(m::strSignNumber)},
-        {"strSignOpposite", Column(m::strSignOpposite)},
-        {"strSignKeywords", Column(m::strSignKeywords)},
-        {"strSignElement", Column(m::strSignElement)},
-        {"strSignRulingPlanet", Column(m::strSignRulingPlanet)},
-        {"strSignLuckyNumber", Column(m::strSignLuckyNumber)},
-        {"strSignLuckyColor", Column(m::strSignLuckyColor)},
-        {"strSignLuckyDay", Column(m::strSignLuckyDay)},
-        {"strSignBirthstone", Column(m::strSignBirthstone)},
-        {"strSignQuality", Column(m::strSignQuality)},
-        {"strSignAnatomy", Column(m::strSignAnatomy)},
-        {"strSignFlowerEssence", Column(m::strSignFlowerEssence)},
-        {"strSignPositive", Column(m::strSignPositive)},
-        {"strSignNegative", Column(m::strSignNegative)},
-        {"strPlanet", Column(m::strPlanet)},
-        {"strPlanetRulerForSign", Column(m::strPlanetRulerForSign)},
-        {"strPlanetKeywords", Column(m::strPlanetKeywords)},
-        {"strPlanetCycle", Column(m::strPlanetCycle)},
-        {"strPlanetAnatomy", Column(m::strPlanetAnatomy)},
-        {"strPlanetRulerForHouse", Column(m::strPlanetRulerForHouse)},
-        {"strPlanetPositive", Column(m::strPlanetPositive)},
-        {"strPlanetNegative", Column(m::strPlanetNegative)},
-        {"strHouseKey", Column(m::strHouseKey)},
-        {"strHouseNumber", Column(m::strHouseNumber)},
-        {"strHouseName", Column(m::strHouseName)},
-        {"strHousePlanetRuler", Column(m::strHousePlanetRuler)},
-        {"strHouseSignRuler", Column(m::strHouseSignRuler)},
-        {"strHouseKeywords", Column(m::strHouseKeywords)},
-        {"strHouseMantra", Column(m::strHouseMantra)},
-        {"strHouseType", Column(m::strHouseType)},
-        {"strHouseAttributes", Column(m::strHouseAttributes)},
+        {"strSign", ListJson(m::strSign)},
+        {"strSignDates", ListJson(m::strSignDates)},
+        {"strSignNumber", ListJson(m::strSignNumber)},
+        {"strSignOpposite", ListJson(m::strSignOpposite)},
+        {"strSignKeywords", ListJson(m::strSignKeywords)},
+        {"strSignElement", ListJson(m::strSignElement)},
+        {"strSignRulingPlanet", ListJson(m::strSignRulingPlanet)},
+        {"strSignLuckyNumber", ListJson(m::strSignLuckyNumber)},
+        {"strSignLuckyColor", ListJson(m::strSignLuckyColor)},
+        {"strSignLuckyDay", ListJson(m::strSignLuckyDay)},
+        {"strSignBirthstone", ListJson(m::strSignBirthstone)},
+        {"strSignQuality", ListJson(m::strSignQuality)},
+        {"strSignAnatomy", ListJson(m::strSignAnatomy)},
+        {"strSignFlowerEssence", ListJson(m::strSignFlowerEssence)},
+        {"strSignPositive", ListJson(m::strSignPositive)},
+        {"strSignNegative", ListJson(m::strSignNegative)},
+        {"strPlanet", ListJson(m::strPlanet)},
+        {"strPlanetRulerForSign", ListJson(m::strPlanetRulerForSign)},
+        {"strPlanetKeywords", ListJson(m::strPlanetKeywords)},
+        {"strPlanetCycle", ListJson(m::strPlanetCycle)},
+        {"strPlanetAnatomy", ListJson(m::strPlanetAnatomy)},
+        {"strPlanetRulerForHouse", ListJson(m::strPlanetRulerForHouse)},
+        {"strPlanetPositive", ListJson(m::strPlanetPositive)},
+        {"strPlanetNegative", ListJson(m::strPlanetNegative)},
+        {"strHouseKey", ListJson(m::strHouseKey)},
+        {"strHouseNumber", ListJson(m::strHouseNumber)},
+        {"strHouseName", ListJson(m::strHouseName)},
+        {"strHousePlanetRuler", ListJson(m::strHousePlanetRuler)},
+        {"strHouseSignRuler", ListJson(m::strHouseSignRuler)},
+        {"strHouseKeywords", ListJson(m::strHouseKeywords)},
+        {"strHouseMantra", ListJson(m::strHouseMantra)},
+        {"strHouseType", ListJson(m::strHouseType)},
+        {"strHouseAttributes", ListJson(m::strHouseAttributes)},
     };
 }
 

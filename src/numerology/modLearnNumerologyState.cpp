@@ -1,4 +1,5 @@
 #include "numerology/modLearnNumerologyState.h"
+#include "common/StateJson.h"
 
 #include "numerology/modLearnNumerology.h"
 
@@ -24,56 +25,24 @@ void ClearTestState() {
     strInterpretationAnswer.Erase();
 }
 
-namespace {
-
-template <class Range> Json Numbers(const Range& values) {
-    Json::Array out;
-    for (const auto& v : values)
-        out.emplace_back(int(v));
-    return Json(std::move(out));
-}
-
-template <class Range> Json Flags(const Range& values) {
-    Json::Array out;
-    for (const auto& v : values)
-        out.emplace_back(v != 0);
-    return Json(std::move(out));
-}
-
-template <class Range> Json Strings(const Range& values) {
-    Json::Array out;
-    for (const auto& v : values)
-        out.emplace_back(v);
-    return Json(std::move(out));
-}
-
-// A dynamic array without bounds reads as null.
-template <class T, class Convert> Json Dynamic(const VBArray<T>& array, Convert convert) {
-    return array.IsInitialised() ? convert(array.Items()) : Json();
-}
-
-} // namespace
-
 Json ModuleVariables() {
     return Json::Object{
         {"blnLearnMode", blnLearnMode != 0},
         {"blnBySignificance", blnBySignificance != 0},
         {"intCurrent", int(intCurrent)},
-        {"blnSubjectSelected", Flags(blnSubjectSelected)},
+        {"blnSubjectSelected", FlagsJson(blnSubjectSelected)},
         {"blnQuestionsBuilt", blnQuestionsBuilt != 0},
-        {"intSignificanceQuestion", Numbers(intSignificanceQuestion)},
-        {"strSignificanceAnswer", Strings(strSignificanceAnswer)},
-        {"intInterpretationQuestion",
-         Dynamic(intInterpretationQuestion, [](const auto& v) { return Numbers(v); })},
-        {"strInterpretationAnswer",
-         Dynamic(strInterpretationAnswer, [](const auto& v) { return Strings(v); })},
-        {"strSubject", Strings(strSubject)},
-        {"strSignificance", Strings(strSignificance)},
-        {"strCalculation", Strings(strCalculation)},
-        {"intFirstRow", Numbers(intFirstRow)},
-        {"intLastRow", Numbers(intLastRow)},
-        {"intNumber", Numbers(intNumber)},
-        {"strInterpretation", Strings(strInterpretation)},
+        {"intSignificanceQuestion", ListJson(intSignificanceQuestion)},
+        {"strSignificanceAnswer", ListJson(strSignificanceAnswer)},
+        {"intInterpretationQuestion", ListJson(intInterpretationQuestion)},
+        {"strInterpretationAnswer", ListJson(strInterpretationAnswer)},
+        {"strSubject", ListJson(strSubject)},
+        {"strSignificance", ListJson(strSignificance)},
+        {"strCalculation", ListJson(strCalculation)},
+        {"intFirstRow", ListJson(intFirstRow)},
+        {"intLastRow", ListJson(intLastRow)},
+        {"intNumber", ListJson(intNumber)},
+        {"strInterpretation", ListJson(strInterpretation)},
     };
 }
 

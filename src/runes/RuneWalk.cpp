@@ -1,4 +1,5 @@
 #include "runes/RuneWalk.h"
+#include "common/StateJson.h"
 
 #include "common/Errors.h"
 #include "runes/modLearnRunes.h"
@@ -17,34 +18,17 @@ Picture Img(long entry) {
     return picture;
 }
 
-namespace {
-template <class T> Json ArrayJson(const VBArray<T>& a) {
-    if (!a.IsInitialised())
-        return Json();
-    Json::Array items;
-    for (const T& item : a.Items())
-        items.emplace_back(item);
-    return Json(std::move(items));
-}
-template <std::size_t N> Json TableJson(const std::array<std::string, N>& table) {
-    Json::Array items;
-    for (const std::string& item : table)
-        items.emplace_back(item);
-    return Json(std::move(items));
-}
-} // namespace
-
 Json Variables() {
     return Json::Object{
-        {"intStoneSlot", ArrayJson(intStoneSlot)},
-        {"intSelectedStone", ArrayJson(intSelectedStone)},
+        {"intStoneSlot", ListJson(intStoneSlot)},
+        {"intSelectedStone", ListJson(intSelectedStone)},
         {"intStoneIndex", Json(intStoneIndex)},
-        {"strStoneName", TableJson(strStoneName)},
-        {"strNormalMeaning", TableJson(strNormalMeaning)},
-        {"strReverseMeaning", TableJson(strReverseMeaning)},
-        {"strMarkstaveMeaning", TableJson(strMarkstaveMeaning)},
-        {"strKeyword", TableJson(strKeyword)},
-        {"strAlternativeName", TableJson(strAlternativeName)},
+        {"strStoneName", ListJson(strStoneName)},
+        {"strNormalMeaning", ListJson(strNormalMeaning)},
+        {"strReverseMeaning", ListJson(strReverseMeaning)},
+        {"strMarkstaveMeaning", ListJson(strMarkstaveMeaning)},
+        {"strKeyword", ListJson(strKeyword)},
+        {"strAlternativeName", ListJson(strAlternativeName)},
     };
 }
 

@@ -1,4 +1,5 @@
 #include "runes/modLearnRunesTest.h"
+#include "common/StateJson.h"
 
 #include "common/Numbers.h"
 #include "common/Random.h"
@@ -172,35 +173,18 @@ std::string TestReport(std::string_view unit) {
     return report;
 }
 
-namespace {
-template <class T> Json ArrayJson(const VBArray<T>& a) {
-    if (!a.IsInitialised())
-        return Json();
-    Json::Array items;
-    for (const T& item : a.Items())
-        items.emplace_back(item);
-    return Json(std::move(items));
-}
-Json FlagsJson(const VBArray<std::int16_t>& a) {
-    Json::Array items;
-    for (std::int16_t flag : a.Items())
-        items.emplace_back(flag != 0);
-    return Json(std::move(items));
-}
-} // namespace
-
 Json Variables() {
     return Json::Object{
         {"intTestLevel", Json(intTestLevel)},
         {"intQuestionNumber", Json(intQuestionNumber)},
         {"intMeaningQuestionNumber", Json(intMeaningQuestionNumber)},
         {"blnStoneType", FlagsJson(blnStoneType)},
-        {"intStoneOrder", ArrayJson(intStoneOrder)},
-        {"strTestResult", ArrayJson(strTestResult)},
+        {"intStoneOrder", ListJson(intStoneOrder)},
+        {"strTestResult", ListJson(strTestResult)},
         {"intCorrect", Json(intCorrect)},
         {"intTotalCorrect", Json(intTotalCorrect)},
-        {"strCorrectKeyword", ArrayJson(strCorrectKeyword)},
-        {"strKeywordOption", ArrayJson(strKeywordOption)},
+        {"strCorrectKeyword", ListJson(strCorrectKeyword)},
+        {"strKeywordOption", ListJson(strKeywordOption)},
     };
 }
 
