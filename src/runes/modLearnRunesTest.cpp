@@ -71,19 +71,26 @@ const std::string& MeaningOf(int position, int stone) {
     }
 }
 
-} // namespace
-
-void LoadKeywordQuestion(const QuestionView& view) {
+// What every question does first: fresh answer lists for the level, its boxes
+// in view and clear, its instruction, and the stone of the question.
+void BeginQuestion(const QuestionView& view, int questionNumber) {
     LoadRuneTables();
     Randomize();
     const bool advanced = intTestLevel != 0;
-    const int shown = advanced ? 8 : 5;
     strCorrectKeyword.ReDim(0, advanced ? 4 : 1);
     strKeywordOption.ReDim(0, advanced ? 8 : 5);
-    ShowChoices(view, shown);
+    ShowChoices(view, advanced ? 8 : 5);
     view.caption.SetCaption(advanced ? "You must choose 4 options"
                                      : "You must choose only 1 option");
-    ShowStone(view, intQuestionNumber);
+    ShowStone(view, questionNumber);
+}
+
+} // namespace
+
+void LoadKeywordQuestion(const QuestionView& view) {
+    const bool advanced = intTestLevel != 0;
+    const int shown = advanced ? 8 : 5;
+    BeginQuestion(view, intQuestionNumber);
     const int s = intStoneOrder(intQuestionNumber - 1);
     const int rights = advanced ? 4 : 1;
     // Independent draws: a keyword may come twice, another not at all.
@@ -126,16 +133,9 @@ std::string DrawWrongMeaning() {
 }
 
 void LoadMeaningQuestion(const QuestionView& view) {
-    LoadRuneTables();
-    Randomize();
     const bool advanced = intTestLevel != 0;
     const int shown = advanced ? 8 : 5;
-    strCorrectKeyword.ReDim(0, advanced ? 4 : 1);
-    strKeywordOption.ReDim(0, advanced ? 8 : 5);
-    ShowChoices(view, shown);
-    view.caption.SetCaption(advanced ? "You must choose 4 options"
-                                     : "You must choose only 1 option");
-    ShowStone(view, intMeaningQuestionNumber);
+    BeginQuestion(view, intMeaningQuestionNumber);
     for (int j = 0; j < (advanced ? 4 : 1); ++j)
         strCorrectKeyword(j) = DrawCorrectMeaning();
     // Only the first right text is kept out of the wrong ones.
