@@ -1,3 +1,4 @@
+#include "ClickForwarder.h"
 #include "Pictures.h"
 #include "WindowKit.h"
 #include "Windows.h"
@@ -69,28 +70,6 @@ protected:
         painter.drawPrimitive(QStyle::PE_IndicatorRadioButton, option);
     }
     bool hitButton(const QPoint&) const override { return true; }
-};
-
-// A click in a choice's text box reaches its control, as a click on a label
-// would; the binder only follows what such a box holds.
-class ClickForwarder : public QObject {
-public:
-    ClickForwarder(Application& app, std::string form, std::string path, QObject* parent)
-        : QObject(parent), app_(app), form_(std::move(form)), path_(std::move(path)) {}
-
-protected:
-    bool eventFilter(QObject* watched, QEvent* event) override {
-        if (event->type() == QEvent::MouseButtonRelease && !app_.Ended())
-            if (Form* form = app_.Find(form_))
-                if (Control* c = form->Find(path_); c && c->Unreachable().empty())
-                    app_.Dispatch([c] { c->UserClick(); });
-        return QObject::eventFilter(watched, event);
-    }
-
-private:
-    Application& app_;
-    std::string form_;
-    std::string path_;
 };
 
 QLabel* Text(const QString& path, const char* role) {
@@ -254,8 +233,7 @@ QWidget* QuestionPanel(Form& form) {
         box->setReadOnly(true);
         box->setFixedHeight(62);
         box->viewport()->setCursor(Qt::PointingHandCursor);
-        box->viewport()->installEventFilter(
-            new ClickForwarder(form.App(), form.Name(), path.toStdString(), box));
+        box->viewport()->installEventFilter(new ClickForwarder(form, path.toStdString(), box));
         choices->addWidget(box, c, 1);
     }
     column->addLayout(choices);

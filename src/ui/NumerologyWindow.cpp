@@ -1,6 +1,7 @@
 // The Numerology window: six panels stacked in one place, each with its
 // caption as a heading, laid out by hand.
 #include "Binder.h"
+#include "ClickForwarder.h"
 #include "WindowKit.h"
 #include "Windows.h"
 
@@ -94,28 +95,6 @@ void FollowCaptions(Form& form, QStackedWidget* stack) {
     QObject::connect(stack, &QStackedWidget::currentChanged, stack, sync, Qt::QueuedConnection);
     sync();
 }
-
-// A press on a choice's text box picks that choice.
-class ChoiceTextPress : public QObject {
-public:
-    ChoiceTextPress(Form& form, std::string path, QObject* parent)
-        : QObject(parent), app_(form.App()), form_(form.Name()), path_(std::move(path)) {}
-
-protected:
-    bool eventFilter(QObject* watched, QEvent* event) override {
-        if (event->type() == QEvent::MouseButtonPress && !app_.Ended()) {
-            Form* live = app_.Find(form_);
-            if (Control* c = live ? live->Find(path_) : nullptr; c && c->Unreachable().empty())
-                app_.Dispatch([c] { c->UserClick(); });
-        }
-        return QObject::eventFilter(watched, event);
-    }
-
-private:
-    Application& app_;
-    std::string form_;
-    std::string path_;
-};
 
 QHBoxLayout* ButtonRow(std::initializer_list<QWidget*> left,
                        std::initializer_list<QWidget*> right) {
@@ -234,7 +213,7 @@ QWidget* QuestionPanel(Form& form) {
         text->setLineWrapMode(QPlainTextEdit::WidgetWidth);
         text->viewport()->setCursor(Qt::PointingHandCursor);
         text->viewport()->installEventFilter(
-            new ChoiceTextPress(form, QString("txtOption(%1)").arg(i).toStdString(), text));
+            new ClickForwarder(form, QString("txtOption(%1)").arg(i).toStdString(), text));
         choices->addWidget(option, i, 0, Qt::AlignTop | Qt::AlignHCenter);
         choices->addWidget(text, i, 1);
     }
