@@ -103,7 +103,7 @@ Json frmLearnAstrologyMain::Variables() const {
 }
 
 void frmLearnAstrologyMain::InitAstrologyWindow() {
-    const double screen = App().Svc().screen ? App().Svc().screen->WidthTwips() : 19200;
+    const double screen = App().Svc().screen->WidthTwips();
     Me().SetLeft(int((screen - Me().Width()) / 2));
     Me().SetTop(0);
 
@@ -171,6 +171,8 @@ void frmLearnAstrologyMain::ShowGlyph(Control& picture, int row) {
     const bool planets = run.strValues.UBound() == long(mla::kPlanetRows);
     Picture glyph;
     glyph.descriptor = std::string(planets ? "imgPlanet " : "imgSign ") + std::to_string(row + 1);
+    glyph.resource = std::string(planets ? "astrology/planet-" : "astrology/sign-") +
+                     std::to_string(row) + ".svg";
     picture.SetPicture(glyph);
 }
 

@@ -85,6 +85,8 @@ bool Application::Unload(const std::string& name) {
     loaded_.erase(it);
     closed->Me().SetVisible(false);
     closed->SetModal(false);
+    if (popup_ && popup_->form == name)
+        popup_.reset();
     if (activeChild_ == name)
         activeChild_.clear();
     if (host_)
@@ -107,7 +109,7 @@ Form* Application::MenuOwner() const {
         if (Form* child = Find(activeChild_);
             child && child->Me().Visible() && !child->Menus().empty())
             return child;
-    return Find("frmMDI");
+    return Find(mainForm_);
 }
 
 Form* Application::ModalForm() const {
@@ -138,10 +140,23 @@ void Application::Dispatch(const std::function<void()>& handler) {
         MsgBox("Run-time error '" + std::to_string(e.Number()) + "':\r\n\r\n" + e.what(),
                MsgButtons::Ok, MsgIcon::Critical);
         End();
+    } catch (const std::exception& e) {
+        MsgBox(std::string("An unexpected error stopped Quillane:\r\n\r\n") + e.what() +
+                   "\r\n\r\nQuillane will close now.",
+               MsgButtons::Ok, MsgIcon::Critical);
+        End();
     }
     --depth_;
     if (depth_ == 0)
         Collect();
+}
+
+void Application::PopupMenu(Form& form, Control& menu, Control* defaultEntry) {
+    popup_ = Popup{form.Name(), &menu, defaultEntry};
+    if (host_) {
+        host_->PopupMenu(form, menu, defaultEntry);
+        popup_.reset();
+    }
 }
 
 void Application::Collect() {
@@ -149,8 +164,6 @@ void Application::Collect() {
 }
 
 MsgAnswer Application::MsgBox(const std::string& text, MsgButtons buttons, MsgIcon icon) {
-    if (!services_.messageBox)
-        return buttons == MsgButtons::YesNo ? MsgAnswer::No : MsgAnswer::Ok;
     return services_.messageBox->Show(text, kTitle, icon, buttons);
 }
 

@@ -14,22 +14,6 @@
 
 namespace quillane {
 
-struct Services {
-    IMessageBox* messageBox = nullptr;
-    IBrowser* browser = nullptr;
-    IPrinter* printer = nullptr;
-    ISaveDialog* saveDialog = nullptr;
-    IClock* clock = nullptr;
-    ILocale* locale = nullptr;
-    ISettingsStore* settings = nullptr;
-    IProgramFolder* folder = nullptr;
-    IInstanceLock* instanceLock = nullptr;
-    ITray* tray = nullptr;
-    IAutostart* autostart = nullptr;
-    IPictureDecoder* pictures = nullptr;
-    IScreen* screen = nullptr;
-};
-
 // The view side: the desktop program makes a window for each loaded form.
 class IFormHost {
 public:
@@ -39,6 +23,9 @@ public:
     virtual void FormUnloaded(Form& form) = 0;
     // Shows the form modally; returns when it is closed.
     virtual void RunModal(Form& form) = 0;
+    // Pops up one of the form's menus where the mouse is; returns when it is
+    // closed, an entry's Click having run if one was picked.
+    virtual void PopupMenu(Form& form, Control& menu, Control* defaultEntry) = 0;
     virtual void ProgramEnded() = 0;
 };
 
@@ -50,6 +37,9 @@ public:
     ~Application();
 
     Services& Svc() { return services_; }
+    // The program's one top-level form, whose menus show while no child has any.
+    void SetMainForm(std::string name) { mainForm_ = std::move(name); }
+    const std::string& MainForm() const { return mainForm_; }
     void SetHost(IFormHost* host) { host_ = host; }
 
     using Factory = std::function<std::unique_ptr<Form>(Application&)>;
@@ -83,6 +73,18 @@ public:
 
     MsgAnswer MsgBox(const std::string& text, MsgButtons buttons, MsgIcon icon);
 
+    // A pop-up menu of a form, with its default entry shown in bold.
+    struct Popup {
+        std::string form;
+        Control* menu = nullptr;
+        Control* defaultEntry = nullptr;
+    };
+    void PopupMenu(Form& form, Control& menu, Control* defaultEntry = nullptr);
+    // The pop-up menu that is up and waits for a pick (without a window, it
+    // stays up until the next action closes it).
+    const std::optional<Popup>& OpenPopup() const { return popup_; }
+    void ClosePopup() { popup_.reset(); }
+
 private:
     void Collect();
 
@@ -94,6 +96,8 @@ private:
     std::vector<std::unique_ptr<Form>> unloaded_; // waiting for the event to end
     std::vector<std::string> unloading_;
     std::string activeChild_;
+    std::string mainForm_;
+    std::optional<Popup> popup_;
     int depth_ = 0;
     bool ended_ = false;
 };

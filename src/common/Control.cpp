@@ -3,13 +3,30 @@
 #include "Application.h"
 #include "Errors.h"
 #include "Form.h"
+#include "TabStrip.h"
 
 #include <algorithm>
 
 namespace quillane {
 
 Control::Control(Form& owner, ControlKind kind, std::string name, int index, Control* container)
-    : owner_(owner), kind_(kind), name_(std::move(name)), index_(index), container_(container) {}
+    : owner_(owner), kind_(kind), name_(std::move(name)), index_(index), container_(container) {
+    if (kind == ControlKind::ComboBox)
+        list_ = std::make_unique<ListPart>();
+}
+
+Control::~Control() = default;
+
+const ListPart& Control::List() const {
+    static const ListPart kNone;
+    return list_ ? *list_ : kNone;
+}
+
+ListPart& Control::List() {
+    if (!list_)
+        throw RuntimeError(438, "Object doesn't support this property or method");
+    return *list_;
+}
 
 std::string Control::Path() const {
     std::string own = index_ >= 0 ? name_ + "(" + std::to_string(index_) + ")" : name_;
@@ -67,9 +84,12 @@ void Control::SetCaption(std::string caption) {
 
 std::string Control::Text() const {
     switch (kind_) {
-    case ControlKind::ComboBox:
-        return listIndex_ >= 0 && listIndex_ < int(list_.size()) ? list_[std::size_t(listIndex_)]
-                                                                 : text_;
+    case ControlKind::ComboBox: {
+        const ListPart& list = List();
+        return list.index >= 0 && list.index < int(list.items.size())
+                   ? list.items[std::size_t(list.index)]
+                   : text_;
+    }
     case ControlKind::RichTextBox: {
         std::string all;
         for (const auto& run : runs_)
@@ -110,7 +130,16 @@ void Control::SetEnabled(bool enabled) {
     Notify(Prop::Enabled);
 }
 
+void Control::SetLocked(bool locked) {
+    if (locked == locked_)
+        return;
+    locked_ = locked;
+    Notify(Prop::Locked);
+}
+
 void Control::SetTag(std::string tag) {
+    if (tag == tag_)
+        return;
     tag_ = std::move(tag);
     Notify(Prop::Tag);
 }
@@ -146,27 +175,41 @@ void Control::SetValue(int value) {
 }
 
 void Control::AddItem(std::string item) {
-    list_.push_back(std::move(item));
+    List().items.push_back(std::move(item));
     Notify(Prop::List);
 }
 
 void Control::Clear() {
-    list_.clear();
-    listIndex_ = -1;
+    ListPart& list = List();
+    if (list.items.empty() && list.index == -1)
+        return;
+    list.items.clear();
+    list.index = -1;
     Notify(Prop::List);
 }
 
 void Control::SetListIndex(int index) {
-    if (index < -1 || index >= int(list_.size()))
+    ListPart& list = List();
+    if (index < -1 || index >= int(list.items.size()))
         throw RuntimeError(380, "Invalid property value");
-    if (index == listIndex_)
+    if (index == list.index)
         return;
-    listIndex_ = index;
+    list.index = index;
     Notify(Prop::ListIndex);
     RaiseClick();
 }
 
+void Control::UserPick(int index) {
+    SetFocus();
+    if (index == ListIndex())
+        RaiseClick();
+    else
+        SetListIndex(index);
+}
+
 void Control::SetPicture(quillane::Picture picture) {
+    if (picture == picture_)
+        return;
     picture_ = std::move(picture);
     Notify(Prop::Picture);
 }
@@ -186,6 +229,8 @@ void Control::SetFontBold(bool on) {
 }
 
 void Control::SetFontSize(double size) {
+    if (size == fontSize_)
+        return;
     fontSize_ = size;
     Notify(Prop::Font);
 }
@@ -250,6 +295,12 @@ void Control::Move(int left, int top, int width, int height) {
     Notify(Prop::Geometry);
 }
 
+bool Control::OnShownPage() const {
+    if (page_ < 0 || !container_ || container_->kind_ != ControlKind::TabStrip)
+        return true;
+    return static_cast<const TabStrip*>(container_)->Tab() == page_;
+}
+
 bool Control::InFront() const {
     return stack_ && stack_->Front() == this;
 }
@@ -266,7 +317,7 @@ std::string Control::Unreachable() const {
     if (kind_ == ControlKind::Menu && app.MenuOwner() != &owner_)
         return "hidden";
     for (const Control* c = this; c; c = c->container_)
-        if (!c->visible_ || (c->stack_ && !c->InFront()))
+        if (!c->visible_ || (c->stack_ && !c->InFront()) || !c->OnShownPage())
             return "hidden";
     if (Form* modal = app.ModalForm(); modal && modal != &owner_)
         return "disabled";

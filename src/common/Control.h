@@ -7,6 +7,7 @@
 #include "Services.h"
 
 #include <functional>
+#include <memory>
 #include <string>
 #include <vector>
 
@@ -47,12 +48,24 @@ enum class Prop {
     Tag,
     SelStart,
     Front,
-    Geometry
+    Geometry,
+    Locked,
+    Tab,      // a tab strip's selected tab
+    TabState, // a tab's caption or enabled state
+    Items,    // a list view's items, their checks or the selection
+    Checkboxes
+};
+
+// The items of a drop-down list and the one picked.
+struct ListPart {
+    std::vector<std::string> items;
+    int index = -1;
 };
 
 class Control {
 public:
     Control(Form& owner, ControlKind kind, std::string name, int index, Control* container);
+    virtual ~Control();
     Control(const Control&) = delete;
     Control& operator=(const Control&) = delete;
 
@@ -64,6 +77,9 @@ public:
     // "cmdNext", "lblCaption(3)", and for a child of a user control "parent.child".
     std::string Path() const;
     Control* Container() const { return container_; }
+    // The tab page the control lies on, when its container is a tab strip.
+    int Page() const { return page_; }
+    void SetPage(int page) { page_ = page; }
 
     // Events, wired by the form to its handlers.
     std::function<void()> Click;
@@ -86,6 +102,9 @@ public:
     void SetVisible(bool visible);
     bool Enabled() const { return enabled_; }
     void SetEnabled(bool enabled);
+    // A locked text box shows its text but refuses typing.
+    bool Locked() const { return locked_; }
+    void SetLocked(bool locked);
 
     const std::string& Tag() const { return tag_; }
     void SetTag(std::string tag);
@@ -98,11 +117,14 @@ public:
     // Drop-down list.
     void AddItem(std::string item);
     void Clear();
-    int ListCount() const { return int(list_.size()); }
-    const std::string& List(int i) const { return list_.at(std::size_t(i)); }
-    const std::vector<std::string>& ListItems() const { return list_; }
-    int ListIndex() const { return listIndex_; }
+    int ListCount() const { return int(List().items.size()); }
+    const std::string& List(int i) const { return List().items.at(std::size_t(i)); }
+    const std::vector<std::string>& ListItems() const { return List().items; }
+    int ListIndex() const { return List().index; }
     void SetListIndex(int index);
+    // The user picks an item in the open list: Click runs even when it is the
+    // item already shown.
+    void UserPick(int index);
 
     const quillane::Picture& Picture() const { return picture_; }
     void SetPicture(quillane::Picture picture);
@@ -138,6 +160,8 @@ public:
     // Stacked panels.
     PanelStack* Stack() const { return stack_; }
     bool InFront() const;
+    // False for a control on a tab page that is not the selected one.
+    bool OnShownPage() const;
 
     void SetFocus();
 
@@ -145,9 +169,13 @@ public:
     // or "disabled".
     std::string Unreachable() const;
 
-private:
+protected:
     friend class PanelStack;
     void Notify(Prop prop);
+
+private:
+    const ListPart& List() const;
+    ListPart& List();
     void RaiseClick();
     void RaiseChange();
 
@@ -159,10 +187,10 @@ private:
     PanelStack* stack_ = nullptr;
 
     std::string caption_, text_, tag_;
-    bool visible_ = true, enabled_ = true;
+    int page_ = -1;
+    bool visible_ = true, enabled_ = true, locked_ = false;
     int value_ = 0;
-    std::vector<std::string> list_;
-    int listIndex_ = -1;
+    std::unique_ptr<ListPart> list_;
     quillane::Picture picture_;
     bool fontUnderline_ = false, fontBold_ = false;
     double fontSize_ = 0;

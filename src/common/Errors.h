@@ -17,8 +17,8 @@ private:
     std::string file_;
 };
 
-// A run-time error of the kind the original run-time raised (subscript out of
-// range, invalid use of a value). Windows that run under resume-next skip the
+// A run-time error with its classic number (9 subscript out of range, 380
+// invalid property value, ...). Windows that run under resume-next skip the
 // statement that raised it.
 class RuntimeError : public std::runtime_error {
 public:

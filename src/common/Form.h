@@ -39,6 +39,14 @@ public:
     void SetModal(bool modal) { modal_ = modal; }
 
     Control& Add(ControlKind kind, std::string name, Control* container = nullptr, int index = -1);
+    // Adds a control of a kind with a model of its own (a tab strip, a list
+    // view, a user control); the arguments after the form go to its constructor.
+    template <class C, class... Args> C& AddTyped(Args&&... args) {
+        auto control = std::make_unique<C>(*this, std::forward<Args>(args)...);
+        C& added = *control;
+        controls_.push_back(std::move(control));
+        return added;
+    }
     // Adds members lower..upper of a control array, all in one container.
     ControlArray AddArray(ControlKind kind, const std::string& name, int lower, int upper,
                           Control* container = nullptr);

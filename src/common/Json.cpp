@@ -1,5 +1,7 @@
 #include "Json.h"
 
+#include "TextFiles.h"
+
 #include <cmath>
 #include <cstdio>
 
@@ -114,23 +116,6 @@ private:
         i_ += w.size();
         return true;
     }
-    static void AppendUtf8(std::string& out, unsigned cp) {
-        if (cp < 0x80) {
-            out += char(cp);
-        } else if (cp < 0x800) {
-            out += char(0xC0 | (cp >> 6));
-            out += char(0x80 | (cp & 0x3F));
-        } else if (cp < 0x10000) {
-            out += char(0xE0 | (cp >> 12));
-            out += char(0x80 | ((cp >> 6) & 0x3F));
-            out += char(0x80 | (cp & 0x3F));
-        } else {
-            out += char(0xF0 | (cp >> 18));
-            out += char(0x80 | ((cp >> 12) & 0x3F));
-            out += char(0x80 | ((cp >> 6) & 0x3F));
-            out += char(0x80 | (cp & 0x3F));
-        }
-    }
     std::optional<unsigned> Hex4() {
         if (i_ + 4 > t_.size())
             return std::nullopt;
@@ -201,7 +186,7 @@ private:
                         return std::nullopt;
                     code = 0x10000 + ((code - 0xD800) << 10) + (*lo - 0xDC00);
                 }
-                AppendUtf8(out, code);
+                AppendUtf8(out, char32_t(code));
                 break;
             }
             default:

@@ -1,7 +1,7 @@
 #include "Random.h"
 
 #include <bit>
-#include <ctime>
+#include <chrono>
 
 namespace quillane {
 
@@ -14,9 +14,9 @@ std::uint64_t SplitMix(std::uint64_t& x) {
 }
 
 double SystemSecondsSinceMidnight() {
-    timespec ts{};
-    timespec_get(&ts, TIME_UTC);
-    return double(ts.tv_sec % 86400) + double(ts.tv_nsec) / 1e9;
+    using namespace std::chrono;
+    const auto now = system_clock::now().time_since_epoch();
+    return duration<double>(now - floor<days>(now)).count();
 }
 } // namespace
 

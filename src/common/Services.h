@@ -4,6 +4,7 @@
 // implements them on Qt, the driver with recording versions.
 #include "Date.h"
 
+#include <functional>
 #include <optional>
 #include <string>
 #include <vector>
@@ -66,6 +67,14 @@ public:
     virtual std::string MonthName(int month) = 0; // 1..12
 };
 
+// Dates as M/d/yyyy and English month names, the same on every machine.
+class InvariantLocale : public ILocale {
+public:
+    std::string ShortDate(const Date& date) override;
+    std::optional<Date> ParseShortDate(const std::string& text) override;
+    std::string MonthName(int month) override;
+};
+
 // The per-user store of strings by application, section and key. Strings are
 // byte strings; the store keeps them byte for byte.
 class ISettingsStore {
@@ -99,20 +108,45 @@ public:
     virtual bool AnotherInstanceRunning() = 0;
 };
 
+// Mouse messages of the tray icon, by the numbers the program tests.
+enum TrayMessage : int { kTrayLeftDoubleClick = 515, kTrayRightButtonUp = 517 };
+
+// One icon in the desktop's notification area.
 class ITray {
 public:
     virtual ~ITray() = default;
+    // Whether the desktop has a notification area at all.
     virtual bool Available() = 0;
-    virtual void Add(const std::string& tip) = 0;
+    // Shows the icon with its tip; its mouse messages go to the handler.
+    virtual void Add(const std::string& tip, std::function<void(int message)> onMouse) = 0;
     virtual void Remove() = 0;
 };
 
+// What a failed operation of the system reports.
+struct SystemError {
+    long code = 0; // 0: no failure
+    std::string description;
+    explicit operator bool() const { return code != 0; }
+};
+
+// One named entry of the current user's start-at-logon programs.
 class IAutostart {
 public:
     virtual ~IAutostart() = default;
+    // The entry's command, or nothing when there is none or its place can't be opened.
     virtual std::optional<std::string> Read(const std::string& name) = 0;
-    virtual void Write(const std::string& name, const std::string& command) = 0;
+    // Opens (or creates) the place of the entries for writing.
+    virtual SystemError Open() = 0;
+    virtual SystemError Write(const std::string& name, const std::string& command) = 0;
+    // Deletes the entry; nothing happens when there is none.
     virtual void Remove(const std::string& name) = 0;
+};
+
+// Lets the events that are waiting run, inside a long loop of a handler.
+class IEventPump {
+public:
+    virtual ~IEventPump() = default;
+    virtual void DoEvents() = 0;
 };
 
 class IPictureDecoder {
@@ -128,6 +162,27 @@ public:
     virtual ~IScreen() = default;
     virtual int WidthTwips() = 0;
     virtual int HeightTwips() = 0;
+};
+
+// Every service the logic is given. Each starts as a null object (one that
+// records nothing, shows nothing and answers as a cancelled or absent thing
+// would), so the logic never tests for a missing service.
+struct Services {
+    Services();
+    IMessageBox* messageBox;
+    IBrowser* browser;
+    IPrinter* printer;
+    ISaveDialog* saveDialog;
+    IClock* clock;
+    ILocale* locale;
+    ISettingsStore* settings;
+    IProgramFolder* folder;
+    IInstanceLock* instanceLock;
+    ITray* tray;
+    IAutostart* autostart;
+    IEventPump* events;
+    IPictureDecoder* pictures;
+    IScreen* screen;
 };
 
 } // namespace quillane

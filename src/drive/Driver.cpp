@@ -1,13 +1,13 @@
 #include "Driver.h"
 
 #include "Inspect.h"
-#include "cards/modImageDB.h"
 #include "common/Errors.h"
-#include "platform/DesktopServices.h"
-#include "platform/IniSettingsStore.h"
+#include "common/ListView.h"
+#include "common/TabStrip.h"
 #include "shell/StartUp.h"
 
-#include <QDate>
+#include <cstdint>
+
 #include <QString>
 
 namespace quillane::drive {
@@ -91,57 +91,9 @@ std::optional<std::vector<std::string>> SplitWords(const std::string& line) {
     return words;
 }
 
-struct Driver::Platform {
-    RecordingMessageBox messageBox;
-    RecordingBrowser browser;
-    RecordingPrinter printer;
-    QueuedSaveDialog saveDialog;
-    DriverClock clock;
-    DriverLocale locale;
-    IniSettingsStore settings;
-    ProgramFolder folder;
-    FixedInstanceLock instanceLock;
-    RecordingTray tray;
-    ImageDecoder pictures;
-    FixedScreen screen;
-
-    explicit Platform(const DriverOptions& o)
-        : printer(!o.noPrinter), clock(o.today.value_or(Today()), o.seed),
-          settings(QString::fromStdString(o.userDir)),
-          folder(QString::fromStdString(o.programDir), "quillane", QString::fromStdString(o.args)),
-          instanceLock(o.otherInstance), tray(!o.noTray) {}
-
-    static Date Today() {
-        const QDate d = QDate::currentDate();
-        return Date(d.year(), d.month(), d.day());
-    }
-};
-
-Driver::Driver(const DriverOptions& options) : platform_(std::make_unique<Platform>(options)) {
-    Platform& p = *platform_;
-    Services services;
-    services.messageBox = &p.messageBox;
-    services.browser = &p.browser;
-    services.printer = &p.printer;
-    services.saveDialog = &p.saveDialog;
-    services.clock = &p.clock;
-    services.locale = &p.locale;
-    services.settings = &p.settings;
-    services.folder = &p.folder;
-    services.instanceLock = &p.instanceLock;
-    services.tray = &p.tray;
-    services.pictures = &p.pictures;
-    services.screen = &p.screen;
-    modImageDB::SetDecoder(&p.pictures);
-    app_ = std::make_unique<Application>(services);
-    RegisterProgram(*app_);
-    TheGenerator().SetClock([&clock = p.clock] { return clock.Timer(); });
-    if (options.seed)
-        TheGenerator().Reset(std::uint64_t(*options.seed) * 0x9E3779B97F4A7C15ULL + 1);
-}
-
-Driver::~Driver() {
-    modImageDB::SetDecoder(nullptr);
+Driver::Driver(Application& app, DrivePlatform& platform) : app_(&app), platform_(platform) {
+    if (platform.options.seed)
+        TheGenerator().Reset(std::uint64_t(*platform.options.seed) * 0x9E3779B97F4A7C15ULL + 1);
 }
 
 std::optional<std::string> Driver::Execute(const std::string& raw) {
@@ -164,7 +116,7 @@ std::optional<std::string> Driver::Execute(const std::string& raw) {
 }
 
 std::string Driver::Run(const std::string& command, const std::vector<std::string>& args) {
-    Platform& p = *platform_;
+    DrivePlatform& p = platform_;
     auto want = [&](std::size_t n) {
         if (args.size() != n)
             throw std::runtime_error("'" + command + "' takes " + std::to_string(n) +
@@ -200,6 +152,8 @@ std::string Driver::Run(const std::string& command, const std::vector<std::strin
         p.clock.SetToday(*date);
         return "ok";
     }
+    if (command == "click" || command == "hover" || command == "set" || command == "close")
+        app_->ClosePopup();
     if (command == "close") {
         want(1);
         running();
@@ -228,14 +182,7 @@ std::string Driver::Run(const std::string& command, const std::vector<std::strin
     }
     if (command == "dump") {
         want(1);
-        Form* form = app_->Find(args[0]);
-        if (!form)
-            return Error("not loaded: " + args[0]);
-        Json::Object all;
-        all.emplace_back(form->Name(), DumpControl(form->Me()));
-        for (const auto& c : form->Controls())
-            all.emplace_back(form->Name() + "." + c->Path(), DumpControl(*c));
-        return Json(std::move(all)).Dump();
+        return Dump(args[0]);
     }
     if (command == "msgbox") {
         want(0);
@@ -264,14 +211,17 @@ std::string Driver::Run(const std::string& command, const std::vector<std::strin
         return Setting(args);
     if (command == "autostart") {
         want(0);
-        if (!app_->Svc().autostart)
-            return "null";
-        auto entry = app_->Svc().autostart->Read("quillane");
+        auto entry = p.entries.Read(p.folder.ExeName());
         return entry ? JsonQuote(*entry) : "null";
     }
     if (command == "tray") {
         want(0);
         return Json(Json::Object{{"icon", p.tray.icon}, {"tip", p.tray.tip}}).Dump();
+    }
+    if (command == "trayevent" || command == "traymenu") {
+        want(1);
+        running();
+        return Tray(args, command == "traymenu");
     }
     return Error("unknown command: " + command);
 }
@@ -279,14 +229,58 @@ std::string Driver::Run(const std::string& command, const std::vector<std::strin
 std::string Driver::Setting(const std::vector<std::string>& args) {
     const std::string app = "quillane";
     if (args.size() == 1) {
-        auto value = platform_->settings.Read(app, "Settings", ToStoreBytes(args[0]));
+        auto value = platform_.settings.Read(app, "Settings", ToStoreBytes(args[0]));
         return value ? JsonQuote(FromStoreBytes(*value)) : "null";
     }
     if (args.size() == 2) {
-        platform_->settings.Write(app, "Settings", ToStoreBytes(args[0]), ToStoreBytes(args[1]));
+        platform_.settings.Write(app, "Settings", ToStoreBytes(args[0]), ToStoreBytes(args[1]));
         return "ok";
     }
     return Error("setting KEY [VALUE]");
+}
+
+namespace {
+
+// "ListItems(3)" -> 3; nothing for anything else.
+std::optional<int> ItemNumber(const std::string& part) {
+    const std::string head = "ListItems(";
+    if (part.rfind(head, 0) != 0 || part.back() != ')')
+        return std::nullopt;
+    try {
+        return std::stoi(part.substr(head.size(), part.size() - head.size() - 1));
+    } catch (...) {
+        return std::nullopt;
+    }
+}
+
+std::optional<bool> Flag(const std::string& value) {
+    if (value == "true" || value == "1")
+        return true;
+    if (value == "false" || value == "0")
+        return false;
+    return std::nullopt;
+}
+
+} // namespace
+
+Driver::Target Driver::Resolve(const std::vector<std::string>& parts, std::size_t tail) {
+    Target t;
+    t.form = parts.size() >= 2 ? app_->Find(parts[0]) : nullptr;
+    if (!t.form) {
+        t.error = parts.size() >= 2 && app_->IsFormName(parts[0]) ? Error("hidden")
+                                                                  : Error("unknown control");
+        return t;
+    }
+    // The longest leading run of names that is a control; the rest is the
+    // property or the item.
+    for (std::size_t k = parts.size() - tail; k >= 2; --k)
+        if (Control* c = t.form->Find(Join(parts, 1, k))) {
+            t.control = c;
+            t.rest.assign(parts.begin() + std::ptrdiff_t(k), parts.end());
+            return t;
+        }
+    t.error = Error("unknown control");
+    return t;
 }
 
 std::string Driver::Get(const std::string& path) {
@@ -320,28 +314,31 @@ std::string Driver::Get(const std::string& path) {
     }
     if (!form)
         return Error("not loaded: " + owner);
-    for (std::size_t k = parts.size() - 1; k >= 2; --k) {
-        if (Control* c = form->Find(Join(parts, 1, k))) {
-            auto value = GetProperty(*c, Join(parts, k, parts.size()));
-            return value ? value->Dump() : Error("no such property: " + path);
-        }
-    }
-    return Error("unknown: " + path);
+    const Target t = Resolve(parts, 1);
+    if (!t.control)
+        return Error("unknown: " + path);
+    auto value = GetProperty(*t.control, Join(t.rest, 0, t.rest.size()));
+    return value ? value->Dump() : Error("no such property: " + path);
 }
 
 std::string Driver::Act(const std::string& verb, const std::string& path) {
-    const auto parts = SplitPath(path);
-    Form* form = parts.size() >= 2 ? app_->Find(parts[0]) : nullptr;
-    if (!form) {
-        if (parts.size() >= 2 && app_->IsFormName(parts[0]))
-            return Error("hidden");
-        return Error("unknown: " + path);
-    }
-    Control* c = form->Find(Join(parts, 1, parts.size()));
-    if (!c)
-        return Error("unknown: " + path);
+    const Target t = Resolve(SplitPath(path), 0);
+    if (!t.control)
+        return t.error == Error("unknown control") ? Error("unknown: " + path) : t.error;
+    Control* c = t.control;
     if (auto why = c->Unreachable(); !why.empty())
         return Error(why);
+    if (!t.rest.empty()) {
+        // A list item: FORM.ListView1.ListItems(N)
+        auto* list = dynamic_cast<ListView*>(c);
+        const auto n = t.rest.size() == 1 ? ItemNumber(t.rest[0]) : std::nullopt;
+        if (!list || !n || verb != "click")
+            return Error("unknown: " + path);
+        if (*n < 1 || *n > list->Count())
+            return Error("bad value: " + t.rest[0]);
+        app_->Dispatch([&] { list->UserClickItem(*n); });
+        return "ok";
+    }
     app_->Dispatch([&] {
         if (verb == "click")
             c->UserClick();
@@ -355,17 +352,17 @@ std::string Driver::Set(const std::string& path, const std::string& value) {
     const auto parts = SplitPath(path);
     if (parts.size() < 3)
         return Error("unknown: " + path);
-    const std::string& property = parts.back();
-    Form* form = app_->Find(parts[0]);
-    if (!form)
-        return app_->IsFormName(parts[0]) ? Error("hidden") : Error("unknown: " + path);
-    Control* c = form->Find(Join(parts, 1, parts.size() - 1));
-    if (!c)
-        return Error("unknown: " + path);
+    const Target t = Resolve(parts, 1);
+    if (!t.control)
+        return t.error == Error("unknown control") ? Error("unknown: " + path) : t.error;
+    Control* c = t.control;
     if (auto why = c->Unreachable(); !why.empty())
         return Error(why);
+    const std::string property = Join(t.rest, 0, t.rest.size());
     if (property == "Text" &&
         (c->Kind() == ControlKind::TextBox || c->Kind() == ControlKind::RichTextBox)) {
+        if (c->Locked())
+            return Error("locked");
         app_->Dispatch([&] { c->SetText(value); });
         return "ok";
     }
@@ -378,10 +375,7 @@ std::string Driver::Set(const std::string& path, const std::string& value) {
         }
         if (index < 0 || index >= c->ListCount())
             return Error("bad value: " + value);
-        app_->Dispatch([&] {
-            c->SetFocus();
-            c->SetListIndex(index);
-        });
+        app_->Dispatch([&] { c->UserPick(index); });
         return "ok";
     }
     if (property == "Value" && c->Kind() == ControlKind::CheckBox) {
@@ -399,7 +393,81 @@ std::string Driver::Set(const std::string& path, const std::string& value) {
         app_->Dispatch([&] { c->UserClick(); });
         return "ok";
     }
+    if (auto* tabs = dynamic_cast<TabStrip*>(c); tabs && property == "Tab") {
+        int tab = -1;
+        try {
+            tab = std::stoi(value);
+        } catch (...) {
+        }
+        if (tab < 0 || tab >= tabs->Tabs())
+            return Error("bad value: " + value);
+        if (!tabs->TabEnabled(tab))
+            return Error("disabled");
+        app_->Dispatch([&] {
+            tabs->SetFocus();
+            tabs->SetTab(tab);
+        });
+        return "ok";
+    }
+    if (auto* list = dynamic_cast<ListView*>(c);
+        list && t.rest.size() == 2 && t.rest[1] == "Checked") {
+        const auto n = ItemNumber(t.rest[0]);
+        const auto checked = Flag(value);
+        if (!n || *n < 1 || *n > list->Count() || !checked)
+            return Error("bad value: " + (checked ? t.rest[0] : value));
+        if (!list->Checkboxes())
+            return Error("hidden");
+        app_->Dispatch([&] { list->UserCheckItem(*n, *checked); });
+        return "ok";
+    }
     return Error("cannot set " + path);
+}
+
+std::string Driver::Tray(const std::vector<std::string>& args, bool menu) {
+    if (!menu) {
+        int message = 0;
+        try {
+            message = std::stoi(args[0]);
+        } catch (...) {
+            return Error("bad value: " + args[0]);
+        }
+        app_->ClosePopup();
+        app_->Dispatch([&] { platform_.tray.Mouse(message); });
+        const auto& popup = app_->OpenPopup();
+        if (!popup)
+            return "null";
+        return Json(Json::Object{{"menu", popup->menu->Path()},
+                                 {"default", popup->defaultEntry ? Json(popup->defaultEntry->Path())
+                                                                 : Json()}})
+            .Dump();
+    }
+    const auto popup = app_->OpenPopup();
+    if (!popup)
+        return Error("no menu");
+    Form* form = app_->Find(popup->form);
+    Control* entry = form ? form->Find(args[0]) : nullptr;
+    if (!entry || entry->Container() != popup->menu)
+        return Error("unknown: " + args[0]);
+    if (!entry->Enabled() || !entry->Visible())
+        return Error(entry->Enabled() ? "hidden" : "disabled");
+    app_->ClosePopup();
+    app_->Dispatch([&] { entry->UserClick(); });
+    return "ok";
+}
+
+std::string Driver::Dump(const std::string& name) {
+    if (!app_->IsFormName(name))
+        return Error("unknown: " + name);
+    Form* form = app_->Find(name);
+    Json::Object all;
+    if (form)
+        all.emplace_back("Caption", form->Me().Caption());
+    all.emplace_back("Visible", form && form->Me().Visible());
+    all.emplace_back("Loaded", form != nullptr);
+    if (form)
+        for (const auto& c : form->Controls())
+            all.emplace_back(form->Name() + "." + c->Path(), DumpControl(*c));
+    return Json(std::move(all)).Dump();
 }
 
 std::string Driver::Close(const std::string& name) {

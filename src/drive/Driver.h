@@ -1,6 +1,6 @@
 #pragma once
 // The driver's command language: one command a line, one answer a line.
-#include "RecordingServices.h"
+#include "DrivePlatform.h"
 #include "common/Application.h"
 
 #include <memory>
@@ -10,21 +10,11 @@
 
 namespace quillane::drive {
 
-struct DriverOptions {
-    std::string programDir;
-    std::string userDir;
-    std::optional<Date> today;
-    std::optional<long long> seed;
-    std::string args;
-    bool otherInstance = false;
-    bool noPrinter = false;
-    bool noTray = false;
-};
-
 class Driver {
 public:
-    explicit Driver(const DriverOptions& options);
-    ~Driver();
+    // Drives the program on that platform; the program's services are the
+    // platform's.
+    Driver(Application& app, DrivePlatform& platform);
 
     // The answer to one line, or nothing for a blank line or a comment.
     std::optional<std::string> Execute(const std::string& line);
@@ -32,7 +22,6 @@ public:
     Application& App() { return *app_; }
 
 private:
-    struct Platform;
     std::string Run(const std::string& command, const std::vector<std::string>& args);
     std::string Get(const std::string& path);
     std::string Set(const std::string& path, const std::string& value);
@@ -40,8 +29,20 @@ private:
     std::string Close(const std::string& form);
     std::string Setting(const std::vector<std::string>& args);
 
-    std::unique_ptr<Platform> platform_;
-    std::unique_ptr<Application> app_;
+    // A path split into its control and what follows it (property, item).
+    struct Target {
+        Form* form = nullptr;
+        Control* control = nullptr;
+        std::vector<std::string> rest;
+        std::string error;
+    };
+    // tail: how many trailing parts can't belong to the control's path.
+    Target Resolve(const std::vector<std::string>& parts, std::size_t tail);
+    std::string Tray(const std::vector<std::string>& args, bool menu);
+    std::string Dump(const std::string& form);
+
+    Application* app_;
+    DrivePlatform& platform_;
 };
 
 // Splits a command line into words; a word that starts with a quote is a JSON

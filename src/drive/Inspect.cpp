@@ -1,5 +1,9 @@
 #include "Inspect.h"
 
+#include "common/ListView.h"
+#include "common/TabStrip.h"
+#include "common/UserControl.h"
+
 #include <vector>
 
 namespace quillane::drive {
@@ -34,15 +38,68 @@ std::vector<std::string> PropertiesOf(ControlKind kind) {
     case ControlKind::Image:
         props.push_back("Picture");
         break;
+    case ControlKind::ListView:
+        props.insert(props.end(), {"ListItems", "Checkboxes"});
+        break;
     default:
         break;
     }
     return props;
 }
 
+// "TabEnabled(2)" -> 2 for the name "TabEnabled"; nothing otherwise.
+std::optional<int> Indexed(const std::string& property, const std::string& name) {
+    if (property.rfind(name + "(", 0) != 0 || property.back() != ')')
+        return std::nullopt;
+    try {
+        return std::stoi(property.substr(name.size() + 1));
+    } catch (...) {
+        return std::nullopt;
+    }
+}
+
+std::optional<Json> TabProperty(const TabStrip& tabs, const std::string& p) {
+    if (p == "Tab")
+        return Json(tabs.Tab());
+    if (p == "Tabs")
+        return Json(tabs.Tabs());
+    for (const char* name : {"TabEnabled", "TabCaption"})
+        if (auto n = Indexed(p, name)) {
+            if (*n < 0 || *n >= tabs.Tabs())
+                return std::nullopt;
+            return name == std::string("TabEnabled") ? Json(tabs.TabEnabled(*n))
+                                                     : Json(tabs.TabCaption(*n));
+        }
+    return std::nullopt;
+}
+
+std::optional<Json> ListViewProperty(const ListView& list, const std::string& p) {
+    if (p == "Checkboxes")
+        return Json(list.Checkboxes());
+    if (p == "ListItems") {
+        Json::Array items;
+        for (const auto& item : list.Items())
+            items.emplace_back(Json::Object{{"Key", item.key},
+                                            {"Text", item.text},
+                                            {"SubItem", item.subItem},
+                                            {"Checked", item.checked}});
+        return Json(std::move(items));
+    }
+    return std::nullopt;
+}
+
 } // namespace
 
 std::optional<Json> GetProperty(const Control& c, const std::string& p) {
+    if (const auto* own = dynamic_cast<const UserControl*>(&c))
+        if (auto value = own->Property(p))
+            return value;
+    if (const auto* tabs = dynamic_cast<const TabStrip*>(&c))
+        if (auto value = TabProperty(*tabs, p))
+            return value;
+    if (const auto* list = dynamic_cast<const ListView*>(&c))
+        if (auto value = ListViewProperty(*list, p))
+            return value;
     if (p == "Visible")
         return Json(c.Visible());
     if (p == "Enabled")
@@ -65,6 +122,8 @@ std::optional<Json> GetProperty(const Control& c, const std::string& p) {
             return std::nullopt;
         return Json(c.InFront());
     }
+    if (p == "Locked" && c.Kind() == ControlKind::TextBox)
+        return Json(c.Locked());
     if (p == "ListIndex")
         return Json(c.ListIndex());
     if (p == "ListCount")
@@ -107,9 +166,19 @@ Json DumpControl(const Control& control) {
     auto names = PropertiesOf(control.Kind());
     if (control.Stack())
         names.push_back("InFront");
+    if (const auto* tabs = dynamic_cast<const TabStrip*>(&control)) {
+        names.push_back("Tab");
+        for (int i = 0; i < tabs->Tabs(); ++i) {
+            names.push_back("TabEnabled(" + std::to_string(i) + ")");
+            names.push_back("TabCaption(" + std::to_string(i) + ")");
+        }
+    }
     for (const auto& name : names)
         if (auto value = GetProperty(control, name))
             props.emplace_back(name, *value);
+    if (const auto* own = dynamic_cast<const UserControl*>(&control))
+        for (auto& [name, value] : own->Properties())
+            props.emplace_back(name, value);
     return Json(std::move(props));
 }
 

@@ -1,6 +1,6 @@
 #include "RecordingServices.h"
 
-#include <cstdio>
+#include <chrono>
 
 namespace quillane::drive {
 
@@ -29,9 +29,6 @@ const char* AnswerName(MsgAnswer answer) {
         return "ok";
     }
 }
-const char* const kMonths[12] = {"January",   "February", "March",    "April",
-                                 "May",       "June",     "July",     "August",
-                                 "September", "October",  "November", "December"};
 } // namespace
 
 MsgAnswer RecordingMessageBox::Show(const std::string& text, const std::string& title, MsgIcon icon,
@@ -80,34 +77,13 @@ std::optional<std::string> QueuedSaveDialog::GetSaveFileName(const std::string&)
 
 double DriverClock::Timer() {
     if (!seed_) {
-        timespec ts{};
-        timespec_get(&ts, TIME_UTC);
-        return double(ts.tv_sec % 86400) + double(ts.tv_nsec) / 1e9;
+        using namespace std::chrono;
+        const auto now = system_clock::now().time_since_epoch();
+        return duration<double>(now - floor<days>(now)).count();
     }
     // Moves on by a hundredth of a second with each reading, as a clock would.
     const long long n = (*seed_ % 8640000 + 8640000) % 8640000 + ticks_++;
     return double(n % 8640000) / 100.0;
-}
-
-std::string DriverLocale::ShortDate(const Date& date) {
-    char buf[16];
-    std::snprintf(buf, sizeof buf, "%d/%d/%04d", date.Month(), date.Day(), date.Year());
-    return buf;
-}
-
-std::optional<Date> DriverLocale::ParseShortDate(const std::string& text) {
-    int m = 0, d = 0, y = 0;
-    char tail = 0;
-    if (std::sscanf(text.c_str(), "%d/%d/%d%c", &m, &d, &y, &tail) != 3)
-        return std::nullopt;
-    Date date(y, m, d);
-    if (!date.Valid())
-        return std::nullopt;
-    return date;
-}
-
-std::string DriverLocale::MonthName(int month) {
-    return month >= 1 && month <= 12 ? kMonths[month - 1] : "";
 }
 
 } // namespace quillane::drive

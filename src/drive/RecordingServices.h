@@ -5,6 +5,7 @@
 #include "common/Services.h"
 
 #include <deque>
+#include <functional>
 #include <string>
 #include <vector>
 
@@ -62,14 +63,6 @@ private:
     long long ticks_ = 0;
 };
 
-// Dates as M/d/yyyy and English month names, the same on every machine.
-class DriverLocale : public ILocale {
-public:
-    std::string ShortDate(const Date& date) override;
-    std::optional<Date> ParseShortDate(const std::string& text) override;
-    std::string MonthName(int month) override;
-};
-
 class FixedInstanceLock : public IInstanceLock {
 public:
     explicit FixedInstanceLock(bool other) : other_(other) {}
@@ -79,26 +72,59 @@ private:
     bool other_;
 };
 
+// The tray icon as the program left it; mouse messages come from the script.
 class RecordingTray : public ITray {
 public:
     explicit RecordingTray(bool available) : available_(available) {}
     bool Available() override { return available_; }
-    void Add(const std::string& tip) override {
+    void Add(const std::string& tip, std::function<void(int)> onMouse) override {
         icon = true;
         this->tip = tip;
+        onMouse_ = std::move(onMouse);
     }
-    void Remove() override { icon = false; }
+    void Remove() override {
+        icon = false;
+        onMouse_ = nullptr;
+    }
+    // A mouse message on the icon; false when there is no icon to take it.
+    bool Mouse(int message) {
+        if (!onMouse_)
+            return false;
+        auto handler = onMouse_; // the handler may remove the icon
+        handler(message);
+        return true;
+    }
     bool icon = false;
     std::string tip;
 
 private:
     bool available_;
+    std::function<void(int)> onMouse_;
 };
 
-class FixedScreen : public IScreen {
+// The start-at-logon entry, failing where the script asks it to.
+class ScriptedAutostart : public IAutostart {
 public:
-    int WidthTwips() override { return 1920 * 15; }
-    int HeightTwips() override { return 1080 * 15; }
+    enum class Failure { None, Open, Write };
+    ScriptedAutostart(IAutostart& real, Failure failure) : real_(real), failure_(failure) {}
+    std::optional<std::string> Read(const std::string& name) override {
+        return failure_ == Failure::Open ? std::nullopt : real_.Read(name);
+    }
+    SystemError Open() override {
+        return failure_ == Failure::Open ? SystemError{5, "Access is denied."} : real_.Open();
+    }
+    SystemError Write(const std::string& name, const std::string& command) override {
+        return failure_ == Failure::Write ? SystemError{5, "Access is denied."}
+                                          : real_.Write(name, command);
+    }
+    void Remove(const std::string& name) override {
+        if (failure_ != Failure::Open)
+            real_.Remove(name);
+    }
+
+private:
+    IAutostart& real_;
+    Failure failure_;
 };
 
 } // namespace quillane::drive

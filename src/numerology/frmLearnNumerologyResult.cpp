@@ -69,8 +69,7 @@ void frmLearnNumerologyMain::cmdPrint_Click() {
         AppendText(RTB1, RTBTestResult.Text());
         AppendText(RTB1, std::string(kLineEnd) + kLineEnd + attribution);
         RTB1.SetSelStart(0);
-        if (IPrinter* printer = App().Svc().printer)
-            printer->Print(RTB1.Runs());
+        App().Svc().printer->Print(RTB1.Runs());
     } catch (const std::exception&) {
     }
 }

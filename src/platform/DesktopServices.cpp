@@ -1,5 +1,6 @@
 #include "DesktopServices.h"
 
+#include <QCoreApplication>
 #include <QDate>
 #include <QDir>
 #include <QFileInfo>
@@ -62,6 +63,10 @@ std::optional<Date> SystemLocale::ParseShortDate(const std::string& text) {
 
 std::string SystemLocale::MonthName(int month) {
     return QLocale::system().standaloneMonthName(month, QLocale::LongFormat).toStdString();
+}
+
+void QtEventPump::DoEvents() {
+    QCoreApplication::processEvents();
 }
 
 bool ImageDecoder::CanDecode(const std::vector<unsigned char>& bytes) {

@@ -1,7 +1,7 @@
 #pragma once
 // The services that the desktop program and the driver both take from the
 // platform: the instance lock, the program's folder, the locale's dates, the
-// picture decoder.
+// event loop, the picture decoder.
 #include "common/Services.h"
 
 #include <QLockFile>
@@ -42,6 +42,12 @@ public:
     std::string MonthName(int month) override;
     // The short date format used, with its year widened to four digits.
     static QString ShortFormat();
+};
+
+// Lets the events waiting in the event loop run.
+class QtEventPump : public IEventPump {
+public:
+    void DoEvents() override;
 };
 
 class ImageDecoder : public IPictureDecoder {

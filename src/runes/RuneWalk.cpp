@@ -15,6 +15,7 @@ Picture Img(long entry) {
         throw RuntimeError(35600, "Index out of bounds");
     Picture picture;
     picture.descriptor = "IMG " + std::to_string(entry);
+    picture.resource = "runes/" + ImgFileName(int(entry));
     return picture;
 }
 

@@ -2,7 +2,7 @@
 // per user, and the two free-text goal notes kept in files beside the program.
 #include "frmLearnRunesMain.h"
 
-#include "runes/GoalFiles.h"
+#include "common/TextFiles.h"
 #include "runes/ResumeNext.h"
 #include "shell/modSettings.h"
 
@@ -84,15 +84,15 @@ void frmLearnRunesMain::LoadGoals() {
         std::string path;
         Resume([&] { path = GoalFile(goal); });
         Resume([&] {
-            if (!runes::FileExists(path))
-                runes::ReplaceFile(path, "This is Goal " + std::to_string(goal) + ".\r\n");
+            if (!FileExists(path))
+                ReplaceFile(path, "This is Goal " + std::to_string(goal) + ".\r\n");
         });
     }
     for (int goal = 1; goal <= 2; ++goal) {
         Control& box = goal == 1 ? txtGoal1 : txtGoal2;
         std::vector<std::string> lines;
         // A file that cannot be read leaves its box as it is.
-        Resume([&] { lines = runes::ReadLines(GoalFile(goal)); });
+        Resume([&] { lines = ReadLines(GoalFile(goal)); });
         for (const std::string& line : lines)
             Resume([&] { box.SetText(box.Text() + line + "\r\n"); });
     }
@@ -173,11 +173,11 @@ void frmLearnRunesMain::chkGoal2_Click() {
 // Only blanks are trimmed and one line end is added, so a text read from its
 // file (which ends in a line end already) gains one empty line per save.
 void frmLearnRunesMain::cmdGoal1_Click() {
-    Resume([&] { runes::ReplaceFile(GoalFile(1), Trim(txtGoal1.Text()) + "\r\n"); });
+    Resume([&] { ReplaceFile(GoalFile(1), Trim(txtGoal1.Text()) + "\r\n"); });
 }
 
 void frmLearnRunesMain::cmdGoal2_Click() {
-    Resume([&] { runes::ReplaceFile(GoalFile(2), Trim(txtGoal2.Text()) + "\r\n"); });
+    Resume([&] { ReplaceFile(GoalFile(2), Trim(txtGoal2.Text()) + "\r\n"); });
 }
 
 } // namespace quillane

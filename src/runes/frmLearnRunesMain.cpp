@@ -150,7 +150,7 @@ void frmLearnRunesMain::WireHandlers() {
 
 void frmLearnRunesMain::Form_Load() {
     Resume([&] {
-        const int screen = App().Svc().screen ? App().Svc().screen->WidthTwips() : 19200;
+        const int screen = App().Svc().screen->WidthTwips();
         Me().SetLeft((screen - Me().Width()) / 2);
     });
     Resume([&] { Me().SetTop(0); });

@@ -1,11 +1,20 @@
 #include "StartUp.h"
 
+#include "frmAbout.h"
+#include "frmMDI.h"
 #include "modHelp.h"
 
 namespace quillane {
 
+void RegisterShell(Application& app, const LauncherSubjects& subjects) {
+    app.RegisterForm("frmMDI",
+                     [subjects](Application& a) { return std::make_unique<frmMDI>(a, subjects); });
+    app.RegisterForm("frmAbout", [](Application& a) { return std::make_unique<frmAbout>(a); });
+    app.SetMainForm("frmMDI");
+}
+
 void StartUp(Application& app) {
-    if (app.Svc().instanceLock && app.Svc().instanceLock->AnotherInstanceRunning()) {
+    if (app.Svc().instanceLock->AnotherInstanceRunning()) {
         app.MsgBox("Application is already running", MsgButtons::Ok, MsgIcon::Information);
         ExitApplication(app);
         return;
@@ -17,9 +26,9 @@ void StartUp(Application& app) {
 
 void ExitApplication(Application& app) {
     for (Form* form : app.LoadedForms())
-        if (form->Name() != "frmMDI")
+        if (form->Name() != app.MainForm())
             app.Unload(form->Name());
-    app.Unload("frmMDI");
+    app.Unload(app.MainForm());
     app.End();
 }
 

@@ -3,8 +3,11 @@
 
 namespace quillane {
 
-// Registers every form and module of the program with the application.
-void RegisterProgram(Application& app);
+struct LauncherSubjects;
+
+// Registers the shell's forms (the launcher, which opens these subjects, and
+// the About box) and makes the launcher the main form.
+void RegisterShell(Application& app, const LauncherSubjects& subjects);
 
 // What runs at the start of the process, before any window exists.
 void StartUp(Application& app);

@@ -6,15 +6,12 @@
 
 namespace quillane {
 
-const char* const frmMDI::kSubjectWindows[4] = {"frmLearnAstrologyMain", "frmLearnNumerologyMain",
-                                                "frmLearnTarotMain", "frmLearnRunesMain"};
-
 namespace {
 const char* const kSubjectCaptions[4] = {"Learn Astrology", "Learn Numerology", "Learn Tarot",
                                          "Learn Runes"};
 } // namespace
 
-frmMDI::frmMDI(Application& app)
+frmMDI::frmMDI(Application& app, LauncherSubjects subjects)
     : Form(app, "frmMDI"), mnuFile(Add(ControlKind::Menu, "mnuFile")),
       mnuExit(Add(ControlKind::Menu, "mnuExit", &mnuFile)),
       Picture1(Add(ControlKind::PictureBox, "Picture1")),
@@ -31,7 +28,8 @@ frmMDI::frmMDI(Application& app)
       cmdMdiExit(Add(ControlKind::CommandButton, "cmdMdiExit", &PicCoBrand)),
       Label7(Add(ControlKind::Label, "Label7", &PicCoBrand)),
       Picture6(Add(ControlKind::PictureBox, "Picture6", &PicCoBrand)),
-      lblZenthoraBanner(Add(ControlKind::Label, "lblZenthoraBanner", &PicCoBrand)) {
+      lblZenthoraBanner(Add(ControlKind::Label, "lblZenthoraBanner", &PicCoBrand)),
+      subjects_(std::move(subjects)) {
     Me().SetCaption("Quillane v1.20");
     mnuFile.SetCaption("&File");
     mnuExit.SetCaption("E&xit");
@@ -80,7 +78,7 @@ void frmMDI::Form_Unload(int& Cancel) {
 }
 
 void frmMDI::LayOutLauncher() {
-    const double screen = App().Svc().screen ? App().Svc().screen->WidthTwips() : 19200;
+    const double screen = App().Svc().screen->WidthTwips();
     auto centre = [screen](Control& c) { c.SetLeft(int((screen - c.Width()) / 2)); };
     centre(lblZenthoraBanner);
     centre(picButtonContainer);
@@ -90,29 +88,30 @@ void frmMDI::LayOutLauncher() {
 }
 
 void frmMDI::CloseAllSubjects() {
-    for (const char* name : kSubjectWindows)
+    for (const std::string& name : subjects_.windows)
         App().Unload(name);
-    App().Unload("frmLearnRunesMeaningTest");
+    for (const std::string& name : subjects_.dialogs)
+        App().Unload(name);
 }
 
 void frmMDI::OpenSubjectByButton(int Index) {
     CloseAllSubjects();
     picMain.SetVisible(false);
     if (Index >= 0 && Index <= 3)
-        ShowSubject(kSubjectWindows[Index]);
+        ShowSubject(subjects_.windows[std::size_t(Index)]);
 }
 
 void frmMDI::OpenSubjectByLabel(int Index) {
     CloseAllSubjects();
     if (Index >= 3 && Index <= 6) {
         picMain.SetVisible(false);
-        ShowSubject(kSubjectWindows[Index - 3]);
+        ShowSubject(subjects_.windows[std::size_t(Index - 3)]);
     }
 }
 
 void frmMDI::ShowSubject(const std::string& window) {
     Form& form = App().Show(window);
-    const double screen = App().Svc().screen ? App().Svc().screen->WidthTwips() : 19200;
+    const double screen = App().Svc().screen->WidthTwips();
     form.Me().SetLeft(int((screen - form.Me().Width()) / 2));
     form.Me().SetTop(0);
 }

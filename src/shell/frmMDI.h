@@ -2,17 +2,25 @@
 // The launcher: the program's one top-level window, which opens the subjects.
 #include "common/Form.h"
 
+#include <array>
+#include <string>
+#include <vector>
+
 namespace quillane {
+
+// The windows the launcher opens, by button index, and the dialogs that
+// belong to them; opening a subject closes them all first.
+struct LauncherSubjects {
+    std::array<std::string, 4> windows;
+    std::vector<std::string> dialogs;
+};
 
 class frmMDI : public Form {
 public:
-    explicit frmMDI(Application& app);
+    frmMDI(Application& app, LauncherSubjects subjects);
 
     void Form_Load() override; // MDIForm_Load
     void Form_Unload(int& Cancel) override;
-
-    // The subjects by button index: window name.
-    static const char* const kSubjectWindows[4];
 
     Control& mnuFile;
     Control& mnuExit;
@@ -37,6 +45,7 @@ public:
     void ShowSubject(const std::string& window);
 
 private:
+    LauncherSubjects subjects_;
     void CloseAllSubjects();
     void lblCaption_MouseMove(int Index);
     void picMain_MouseMove();

@@ -6,8 +6,7 @@ namespace quillane::modHelp {
 
 namespace {
 void Open(Application& app, const std::string& address) {
-    if (app.Svc().browser)
-        app.Svc().browser->Open(address);
+    app.Svc().browser->Open(address);
 }
 } // namespace
 

@@ -1,6 +1,7 @@
 #pragma once
 // The Numerology window in process, with the driver's recording services and
 // no screen: a test acts as the user through what the user could reach.
+#include "app/Composition.h"
 #include "common/Application.h"
 #include "common/Random.h"
 #include "drive/RecordingServices.h"
@@ -41,10 +42,11 @@ struct NumerologyWindow : ::testing::Test {
         modLearnNumerology::intCurrent = 0;
         Services s;
         s.messageBox = &messageBox;
-        s.printer = withPrinter;
+        if (withPrinter)
+            s.printer = withPrinter;
         s.clock = &clock;
         app = std::make_unique<Application>(s);
-        RegisterProgram(*app);
+        app::RegisterProgram(*app);
         TheGenerator().SetClock([this] { return clock.Timer(); });
         TheGenerator().Reset(seed);
         OpenWindow();

@@ -7,8 +7,7 @@
 #include "platform/DesktopServices.h"
 #include "platform/IniSettingsStore.h"
 #include "shell/StartUp.h"
-#include "ui/FormHost.h"
-#include "ui/Windows.h"
+#include "ui/binding/FormHost.h"
 
 #include "DesktopSession.h"
 #include <QAbstractButton>
@@ -73,22 +72,23 @@ double XOf(QTextEdit* view, const QString& blockStart, QChar c) {
 
 TEST_F(NumerologyUi, ThePanelsAndTheirHeadingsFollowTheForm) {
     EXPECT_EQ(FrontPanel()->objectName(), "fraOption(0)");
-    EXPECT_TRUE(Widget<QLabel>("heading0")->isHidden()) << "the start panel has no caption";
+    EXPECT_TRUE(Widget<QLabel>("fraOption(0).heading")->isHidden())
+        << "the start panel has no caption";
     Click<QRadioButton>("optMain(1)");
     Click<QAbstractButton>("cmdNext");
     EXPECT_EQ(FrontPanel()->objectName(), "fraOption(1)");
-    EXPECT_EQ(Widget<QLabel>("heading1")->text(), "Test Options");
+    EXPECT_EQ(Widget<QLabel>("fraOption(1).heading")->text(), "Test Options");
     EXPECT_EQ(Widget<QRadioButton>("optOption(1)")->text(), "Test By Interpretation of Numbers");
     Click<QRadioButton>("optOption(0)");
     Click<QAbstractButton>("cmdNext2");
-    EXPECT_EQ(Widget<QLabel>("heading4")->text(), "Test By Significance");
+    EXPECT_EQ(Widget<QLabel>("fraOption(4).heading")->text(), "Test By Significance");
     for (int i = 0; i < 10; ++i) {
         Click<QRadioButton>("optChoice(" + QString::number(i % 5) + ")");
         Click<QAbstractButton>("cmdNextQuestion");
     }
     EXPECT_EQ(FrontPanel()->objectName(), "fraOption(5)");
     // The result panel's caption is set after it came to the front.
-    EXPECT_EQ(Widget<QLabel>("heading5")->text(), "Test Result: Significance");
+    EXPECT_EQ(Widget<QLabel>("fraOption(5).heading")->text(), "Test Result: Significance");
     auto* report = Widget<QTextEdit>("RTBTestResult");
     EXPECT_EQ(report->verticalScrollBar()->value(), 0) << "the report opens at its top";
     const QTextBlock first = report->document()->firstBlock();

@@ -1,7 +1,7 @@
 // The goal notes' file format: encodings both ways, lines, and replacement
 // that leaves the old file whole when it fails.
 #include "common/Errors.h"
-#include "runes/GoalFiles.h"
+#include "common/TextFiles.h"
 #include "runes/ResumeNext.h"
 
 #include "DriveSession.h"

@@ -6,8 +6,7 @@
 #include "platform/DesktopServices.h"
 #include "platform/IniSettingsStore.h"
 #include "shell/StartUp.h"
-#include "ui/FormHost.h"
-#include "ui/Windows.h"
+#include "ui/binding/FormHost.h"
 
 #include "DesktopSession.h"
 #include <QAbstractButton>

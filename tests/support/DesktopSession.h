@@ -3,12 +3,11 @@
 // offscreen platform, with the driver's recording services, started as a
 // start of the process would.
 #include "DriveSession.h"
-#include "drive/RecordingServices.h"
-#include "platform/DesktopServices.h"
-#include "platform/IniSettingsStore.h"
+#include "app/Composition.h"
+#include "drive/DrivePlatform.h"
 #include "shell/StartUp.h"
-#include "ui/FormHost.h"
-#include "ui/Windows.h"
+#include "ui/binding/FormHost.h"
+#include "ui/kit/Theme.h"
 
 #include <QApplication>
 #include <QMainWindow>
@@ -21,53 +20,53 @@ inline void EnsureQApplication() {
     static char name[] = "quillane-test";
     static char* argv[] = {name, nullptr};
     if (!QApplication::instance())
-        new QApplication(argc, argv);
+        ui::theme::Apply(*new QApplication(argc, argv));
 }
 
 class DesktopSession {
 public:
     explicit DesktopSession(Date today = Date(2026, 4, 1), long long seed = 7,
                             IPrinter* printerOverride = nullptr)
-        : clock(today, seed) {
+        : platform(Options(dir, today, seed)) {
         EnsureQApplication();
-        Services s;
-        s.messageBox = &messageBox;
-        s.browser = &browser;
-        s.printer = printerOverride ? printerOverride : &printer;
-        s.clock = &clock;
-        s.locale = &locale;
-        s.settings = &settings;
-        s.folder = &folder;
-        s.instanceLock = &lock;
-        s.screen = &screen;
-        app = std::make_unique<Application>(s);
-        RegisterProgram(*app);
+        Services s = platform.Wired();
+        if (printerOverride)
+            s.printer = printerOverride;
+        program = std::make_unique<app::Program>(s);
+        app = &program->App();
         host = std::make_unique<ui::FormHost>(*app);
-        ui::RegisterWindows(*host);
+        app::RegisterWindows(*host);
         app->SetHost(host.get());
         app->Dispatch([this] { StartUp(*app); });
     }
     ~DesktopSession() {
         app->SetHost(nullptr);
         host.reset();
-        app.reset();
+        program.reset();
     }
     DesktopSession(const DesktopSession&) = delete;
 
     QMainWindow* MainWindow() const { return host->MainWindow(); }
 
     ScratchDir dir;
-    drive::RecordingMessageBox messageBox;
-    drive::RecordingBrowser browser;
-    drive::RecordingPrinter printer{true};
-    drive::DriverClock clock;
-    drive::DriverLocale locale;
-    IniSettingsStore settings{QString::fromStdString(dir.Str())};
-    ProgramFolder folder{QString::fromStdString(dir.Str()), "quillane", ""};
-    drive::FixedInstanceLock lock{false};
-    drive::FixedScreen screen;
-    std::unique_ptr<Application> app;
+    drive::DrivePlatform platform;
+    drive::RecordingMessageBox& messageBox = platform.messageBox;
+    drive::RecordingBrowser& browser = platform.browser;
+    drive::RecordingPrinter& printer = platform.printer;
+    drive::DriverClock& clock = platform.clock;
+    std::unique_ptr<app::Program> program;
+    Application* app = nullptr;
     std::unique_ptr<ui::FormHost> host;
+
+private:
+    static drive::DriverOptions Options(const ScratchDir& dir, Date today, long long seed) {
+        drive::DriverOptions o;
+        o.programDir = dir.Str();
+        o.userDir = dir.Str();
+        o.today = today;
+        o.seed = seed;
+        return o;
+    }
 };
 
 } // namespace quillane::testing

@@ -6,9 +6,8 @@
 #include "platform/DesktopServices.h"
 #include "platform/IniSettingsStore.h"
 #include "shell/StartUp.h"
-#include "ui/FormHost.h"
-#include "ui/QtServices.h"
-#include "ui/Windows.h"
+#include "ui/binding/FormHost.h"
+#include "ui/shell/QtServices.h"
 
 #include "DesktopSession.h"
 #include <QAbstractButton>

@@ -1,0 +1,94 @@
+// quillane-drive: runs the whole program without a window and reads the
+// user's actions from standard input, one command a line.
+#include "Composition.h"
+#include "drive/Driver.h"
+
+#include <QCoreApplication>
+#include <QDir>
+#include <QFileInfo>
+#include <QTemporaryDir>
+#include <cstdio>
+#include <iostream>
+#include <memory>
+
+namespace {
+
+int Usage(const char* message) {
+    std::fprintf(stderr,
+                 "quillane-drive: %s\nusage: quillane-drive [--program-dir DIR] [--user-dir DIR] "
+                 "[--today YYYY-MM-DD] [--seed N] [--args TEXT] [--other-instance] [--no-printer] "
+                 "[--no-tray] [--autostart-fails open|write]\n",
+                 message);
+    return 2;
+}
+
+} // namespace
+
+int main(int argc, char** argv) {
+    QCoreApplication qt(argc, argv);
+    quillane::drive::DriverOptions options;
+    options.programDir = QCoreApplication::applicationDirPath().toStdString();
+    for (int i = 1; i < argc; ++i) {
+        const std::string arg = argv[i];
+        auto value = [&]() -> const char* { return i + 1 < argc ? argv[++i] : nullptr; };
+        if (arg == "--other-instance") {
+            options.otherInstance = true;
+        } else if (arg == "--no-printer") {
+            options.noPrinter = true;
+        } else if (arg == "--no-tray") {
+            options.noTray = true;
+        } else if (arg == "--autostart-fails") {
+            const char* v = value();
+            const std::string what = v ? v : "";
+            using Failure = quillane::drive::ScriptedAutostart::Failure;
+            if (what == "open")
+                options.autostartFails = Failure::Open;
+            else if (what == "write")
+                options.autostartFails = Failure::Write;
+            else
+                return Usage("--autostart-fails takes open or write");
+        } else if (arg == "--program-dir" || arg == "--user-dir" || arg == "--today" ||
+                   arg == "--seed" || arg == "--args") {
+            const char* v = value();
+            if (!v)
+                return Usage(("missing value for " + arg).c_str());
+            if (arg == "--program-dir")
+                options.programDir = QFileInfo(v).absoluteFilePath().toStdString();
+            else if (arg == "--user-dir")
+                options.userDir = QFileInfo(v).absoluteFilePath().toStdString();
+            else if (arg == "--args")
+                options.args = v;
+            else if (arg == "--today") {
+                options.today = quillane::Date::FromIso(v);
+                if (!options.today)
+                    return Usage("--today takes YYYY-MM-DD");
+            } else {
+                try {
+                    options.seed = std::stoll(v);
+                } catch (...) {
+                    return Usage("--seed takes a whole number");
+                }
+            }
+        } else {
+            return Usage(("unknown option " + arg).c_str());
+        }
+    }
+    std::unique_ptr<QTemporaryDir> scratch;
+    if (options.userDir.empty()) {
+        scratch = std::make_unique<QTemporaryDir>();
+        options.userDir = scratch->path().toStdString();
+    }
+
+    quillane::drive::DrivePlatform platform(options);
+    quillane::app::Program program(platform.Wired());
+    quillane::drive::Driver driver(program.App(), platform);
+    std::string line;
+    while (std::getline(std::cin, line)) {
+        if (auto answer = driver.Execute(line)) {
+            std::fputs(answer->c_str(), stdout);
+            std::fputc('\n', stdout);
+            std::fflush(stdout);
+        }
+    }
+    return 0;
+}

@@ -1,0 +1,217 @@
+#include "AstrologyWindows.h"
+#include "ui/binding/ClickForwarder.h"
+#include "ui/binding/Pictures.h"
+#include "ui/kit/WindowKit.h"
+
+#include <QEvent>
+#include <QGridLayout>
+#include <QHBoxLayout>
+#include <QScrollArea>
+#include <QStyleOptionButton>
+#include <QStylePainter>
+#include <QVBoxLayout>
+
+namespace quillane::ui {
+
+namespace {
+
+using namespace kit;
+
+QLabel* Text(const QString& path, const char* role) {
+    auto* label = Label(path, role);
+    label->setTextFormat(Qt::PlainText);
+    return label;
+}
+
+QPushButton* Command(const QString& path, bool primary = false) {
+    return Button(path, primary);
+}
+
+// The main and sub heading of a run, with a rule below them.
+QVBoxLayout* Headings(QWidget* panel, const QString& mainPath, const QString& subPath) {
+    auto* column = new QVBoxLayout(panel);
+    column->setContentsMargins(22, 16, 22, 16);
+    column->setSpacing(4);
+    column->addWidget(Text(mainPath, "heading"));
+    column->addWidget(Text(subPath, "sub"));
+    column->addSpacing(6);
+    column->addWidget(Rule());
+    column->addSpacing(10);
+    return column;
+}
+
+// The twelve sign glyphs in a row: a quiet decoration of the choice panel.
+QWidget* ZodiacStrip() {
+    auto* strip = new QWidget;
+    strip->setObjectName("zodiacStrip");
+    auto* row = new QHBoxLayout(strip);
+    row->setContentsMargins(0, 0, 0, 0);
+    row->setSpacing(16);
+    row->addStretch(1);
+    const QSize size(34, 34);
+    for (int sign = 0; sign < 12; ++sign) {
+        auto* glyph = new QLabel;
+        glyph->setFixedSize(size);
+        glyph->setPixmap(RenderSvg(QString(":/astrology/sign-%1.svg").arg(sign), size,
+                                   glyph->devicePixelRatioF()));
+        row->addWidget(glyph);
+    }
+    row->addStretch(1);
+    return strip;
+}
+
+QWidget* ChoicePanel() {
+    auto* panel = Panel("Frame1");
+    auto* column = new QVBoxLayout(panel);
+    column->setContentsMargins(36, 30, 36, 24);
+    column->setSpacing(14);
+    column->addWidget(Text("Label1(0)", "heading"));
+    column->addWidget(Text("Label1(1)", "intro"));
+    column->addSpacing(8);
+    column->addWidget(Text("Label1(2)", "hint"));
+
+    auto* card = new QFrame;
+    card->setProperty("role", "card");
+    auto* grid = new QGridLayout(card);
+    grid->setContentsMargins(22, 18, 22, 18);
+    grid->setHorizontalSpacing(18);
+    grid->setVerticalSpacing(16);
+    const char* const rows[2][3] = {{"optOption(0)", "cboLearnOptionMain", "cboLearnOptionSub"},
+                                    {"optOption(1)", "cboTestOptionMain", "cboTestOptionSub"}};
+    for (int r = 0; r < 2; ++r) {
+        auto* option = Option(rows[r][0]);
+        option->setMinimumWidth(140);
+        grid->addWidget(option, r, 0);
+        auto* main = DropDown(rows[r][1]);
+        main->setMinimumWidth(190);
+        grid->addWidget(main, r, 1);
+        auto* sub = DropDown(rows[r][2]);
+        sub->setMinimumWidth(250);
+        sub->setMaxVisibleItems(16);
+        grid->addWidget(sub, r, 2);
+    }
+    grid->setColumnStretch(3, 1);
+    column->addWidget(card);
+    column->addStretch(1);
+    column->addWidget(ZodiacStrip());
+    column->addStretch(1);
+
+    auto* buttons = new QHBoxLayout;
+    buttons->addStretch(1);
+    buttons->addWidget(Command("cmdNext", true));
+    column->addLayout(buttons);
+    return panel;
+}
+
+QWidget* BrowsingPanel() {
+    auto* panel = Panel("Frame2");
+    auto* column = Headings(panel, "lblLabel(0)", "lblLabel(1)");
+
+    auto* record = new QHBoxLayout;
+    record->setSpacing(20);
+    auto* glyph = Picture("picAstro", QSize(112, 112));
+    glyph->setProperty("role", "glyph");
+    record->addWidget(glyph, 0, Qt::AlignTop);
+
+    auto* texts = new QVBoxLayout;
+    texts->setSpacing(10);
+    texts->addWidget(Text("lblLabel(2)", "title"));
+    // The record's value can be a long paragraph: it wraps and scrolls.
+    auto* value = Text("lblLabel(3)", "value");
+    value->setAlignment(Qt::AlignLeft | Qt::AlignTop);
+    value->setTextInteractionFlags(Qt::TextSelectableByMouse);
+    value->setContentsMargins(14, 12, 14, 12);
+    auto* scroll = new QScrollArea;
+    scroll->setProperty("role", "card");
+    scroll->setWidgetResizable(true);
+    scroll->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+    scroll->setWidget(value);
+    texts->addWidget(scroll, 1);
+    record->addLayout(texts, 1);
+    column->addLayout(record, 1);
+
+    column->addSpacing(8);
+    auto* buttons = new QHBoxLayout;
+    buttons->addWidget(Command("cmdBackToMain(0)"));
+    buttons->addStretch(1);
+    buttons->addWidget(Command("cmdBackDesc"));
+    buttons->addWidget(Command("cmdNextDesc", true));
+    column->addLayout(buttons);
+    return panel;
+}
+
+QWidget* QuestionPanel(Form& form) {
+    auto* panel = Panel("Frame3");
+    auto* column = Headings(panel, "lblTest(0)", "lblTest(1)");
+
+    auto* question = new QHBoxLayout;
+    question->setSpacing(18);
+    auto* glyph = Picture("picTest", QSize(96, 96));
+    glyph->setProperty("role", "glyph");
+    question->addWidget(glyph);
+    auto* asked = new QVBoxLayout;
+    asked->addStretch(1);
+    asked->addWidget(Text("lblTest(2)", "title"));
+    asked->addWidget(Text("lblTest(3)", "hint"));
+    asked->addStretch(1);
+    question->addLayout(asked, 1);
+    column->addLayout(question);
+    column->addSpacing(8);
+
+    auto* choices = new QGridLayout;
+    choices->setHorizontalSpacing(10);
+    choices->setVerticalSpacing(8);
+    for (int c = 0; c <= 4; ++c) {
+        choices->addWidget(new kit::BareOption(QString("optAnswer_Choice(%1)").arg(c)), c, 0,
+                           Qt::AlignTop);
+        const QString path = QString("txtAnswer_Choice(%1)").arg(c);
+        auto* box = TextBox(path, true);
+        box->setFixedHeight(62);
+        box->viewport()->setCursor(Qt::PointingHandCursor);
+        box->viewport()->installEventFilter(new ClickForwarder(form, path.toStdString(), box));
+        choices->addWidget(box, c, 1);
+    }
+    column->addLayout(choices);
+    column->addStretch(1);
+    column->addSpacing(8);
+
+    auto* buttons = new QHBoxLayout;
+    buttons->addStretch(1);
+    buttons->addWidget(Command("cmdNextQuestion", true));
+    column->addLayout(buttons);
+    return panel;
+}
+
+QWidget* ReportPanel() {
+    auto* panel = Panel("Frame4");
+    auto* column = new QVBoxLayout(panel);
+    column->setContentsMargins(22, 18, 22, 16);
+    column->setSpacing(12);
+    auto* report = RichText("RTB");
+    report->document()->setDocumentMargin(12);
+    column->addWidget(report, 1);
+    auto* buttons = new QHBoxLayout;
+    buttons->addStretch(1);
+    buttons->addWidget(Command("cmdBackToMain(1)", true));
+    column->addLayout(buttons);
+    return panel;
+}
+
+} // namespace
+
+QWidget* BuildAstrologyWindow(Form& form) {
+    auto* body = new QWidget;
+    body->setObjectName("astrologyBody");
+    auto* layout = new QVBoxLayout(body);
+    layout->setContentsMargins(0, 0, 0, 0);
+    layout->addWidget(Stack({ChoicePanel(), BrowsingPanel(), QuestionPanel(form), ReportPanel()}));
+    // The window keeps one size; long texts scroll inside it.
+    body->setFixedSize(820, 580);
+    return SubjectShell(form, body, "astrology", "Label61");
+}
+
+void RegisterAstrologyWindows(FormHost& host) {
+    host.RegisterWindow("frmLearnAstrologyMain", BuildAstrologyWindow);
+}
+
+} // namespace quillane::ui

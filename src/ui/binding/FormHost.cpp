@@ -1,0 +1,153 @@
+#include "FormHost.h"
+
+#include <QApplication>
+#include <QCloseEvent>
+#include <QDialog>
+#include <QMdiSubWindow>
+#include <QMenuBar>
+#include <QScreen>
+
+namespace quillane::ui {
+
+FormHost::FormHost(Application& app) : app_(app) {}
+
+FormHost::~FormHost() {
+    closingFromModel_ = true;
+    for (auto& [name, w] : windows_)
+        delete w.frame.data();
+}
+
+void FormHost::RegisterWindow(const std::string& form, WindowBuilder builder) {
+    builders_[form] = std::move(builder);
+}
+
+QWidget* FormHost::WindowOf(const std::string& form) const {
+    auto it = windows_.find(form);
+    return it == windows_.end() ? nullptr : it->second.widget.data();
+}
+
+Binder* FormHost::BinderOf(const std::string& form) const {
+    auto it = windows_.find(form);
+    return it == windows_.end() ? nullptr : it->second.binder;
+}
+
+void FormHost::PopupMenu(Form& form, Control& menu, Control* defaultEntry) {
+    if (Binder* binder = BinderOf(form.Name()))
+        binder->PopupMenu(menu, defaultEntry);
+}
+
+void FormHost::FormLoaded(Form& form) {
+    auto it = builders_.find(form.Name());
+    if (it == builders_.end())
+        return;
+    QWidget* widget = it->second(form);
+    Window w{widget, widget, nullptr};
+    if (auto* main = qobject_cast<QMainWindow*>(widget)) {
+        main_ = main;
+        mdi_ = main->findChild<QMdiArea*>("mdiArea");
+    } else if (form.IsMdiChild() && mdi_) {
+        auto* sub = mdi_->addSubWindow(
+            widget, Qt::SubWindow | Qt::WindowTitleHint | Qt::WindowCloseButtonHint |
+                        Qt::WindowMinimizeButtonHint | Qt::WindowSystemMenuHint);
+        sub->setAttribute(Qt::WA_DeleteOnClose, false);
+        sub->setWindowIcon(QApplication::windowIcon());
+        w.frame = sub;
+    }
+    w.binder = new Binder(app_, form, widget);
+    w.frame->installEventFilter(this);
+    windows_[form.Name()] = w;
+}
+
+void FormHost::FormShown(Form& form) {
+    auto it = windows_.find(form.Name());
+    if (it == windows_.end())
+        return;
+    QWidget* frame = it->second.frame;
+    if (frame == main_) {
+        // Without a window manager a maximise request is not honoured, so the
+        // window first takes the screen's whole available area itself.
+        if (QScreen* screen = main_->screen())
+            main_->setGeometry(screen->availableGeometry());
+        main_->showMaximized();
+    } else if (auto* sub = qobject_cast<QMdiSubWindow*>(frame)) {
+        sub->adjustSize();
+        // Centred across the client area, at its top.
+        sub->move(std::max(0, (mdi_->viewport()->width() - sub->width()) / 2), 0);
+        sub->show();
+        mdi_->setActiveSubWindow(sub);
+    } else if (!form.IsModal()) {
+        frame->show();
+    }
+    UpdateMenuBar();
+}
+
+void FormHost::FormUnloaded(Form& form) {
+    auto it = windows_.find(form.Name());
+    if (it == windows_.end())
+        return;
+    Window w = it->second;
+    windows_.erase(it);
+    if (w.binder)
+        w.binder->Detach();
+    closingFromModel_ = true;
+    if (auto* dialog = qobject_cast<QDialog*>(w.frame.data()))
+        dialog->done(0);
+    if (w.frame && w.frame != main_) {
+        w.frame->hide();
+        if (auto* sub = qobject_cast<QMdiSubWindow*>(w.frame.data()); sub && mdi_)
+            mdi_->removeSubWindow(sub);
+        w.frame->deleteLater();
+    }
+    closingFromModel_ = false;
+    UpdateMenuBar();
+}
+
+void FormHost::RunModal(Form& form) {
+    auto it = windows_.find(form.Name());
+    if (it == windows_.end())
+        return;
+    if (auto* dialog = qobject_cast<QDialog*>(it->second.frame.data())) {
+        dialog->setParent(main_, dialog->windowFlags());
+        dialog->exec();
+    }
+}
+
+void FormHost::ProgramEnded() {
+    closingFromModel_ = true;
+    if (main_)
+        main_->hide();
+    QApplication::quit();
+}
+
+bool FormHost::eventFilter(QObject* watched, QEvent* event) {
+    if (event->type() != QEvent::Close || closingFromModel_)
+        return QObject::eventFilter(watched, event);
+    // The title bar's close button runs the form's own unload, which may keep
+    // the window open; the window closes when the form is unloaded.
+    for (const auto& [name, w] : windows_) {
+        if (w.frame != watched)
+            continue;
+        event->ignore();
+        const std::string form = name;
+        app_.Dispatch([this, form] { app_.Unload(form); });
+        return true;
+    }
+    return QObject::eventFilter(watched, event);
+}
+
+void FormHost::UpdateMenuBar() {
+    if (!main_)
+        return;
+    QMenuBar* bar = main_->menuBar();
+    bar->clear();
+    Form* owner = app_.MenuOwner();
+    if (!owner)
+        return;
+    auto it = windows_.find(owner->Name());
+    if (it == windows_.end() || !it->second.binder)
+        return;
+    for (QMenu* menu : it->second.binder->Menus())
+        bar->addMenu(menu);
+}
+
+} // namespace quillane::ui

@@ -1,0 +1,41 @@
+#include "MouseForwarder.h"
+
+#include "Binder.h"
+
+#include <QEvent>
+#include <QLabel>
+#include <QWidget>
+
+namespace quillane::ui {
+
+MouseForwarder::MouseForwarder(Binder& binder, Control& control, QWidget* widget)
+    : QObject(widget), binder_(binder), control_(control) {
+    widget->installEventFilter(this);
+    widget->setMouseTracking(true);
+    if (control.Click && qobject_cast<QLabel*>(widget))
+        widget->setCursor(Qt::PointingHandCursor);
+}
+
+bool MouseForwarder::eventFilter(QObject* watched, QEvent* event) {
+    // The form may be gone while its window still takes events.
+    if (binder_.Detached() || !control_.Enabled())
+        return QObject::eventFilter(watched, event);
+    Control* c = &control_;
+    switch (event->type()) {
+    case QEvent::MouseButtonRelease:
+        binder_.Act([c] { c->UserClick(); });
+        event->accept();
+        return true;
+    case QEvent::MouseButtonPress:
+        event->accept();
+        return true;
+    case QEvent::MouseMove:
+        binder_.Act([c] { c->UserHover(); });
+        event->accept();
+        return true;
+    default:
+        return QObject::eventFilter(watched, event);
+    }
+}
+
+} // namespace quillane::ui

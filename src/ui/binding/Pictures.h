@@ -1,0 +1,41 @@
+#pragma once
+// Pixels for pictures. The program's own pictures are SVG sources compiled in
+// as resources (":/runes/stone-09-hagalaz.svg") and drawn at the size shown,
+// so they stay crisp on any screen; a card's picture comes from its file's
+// bytes. A turned picture is the same picture under a transform. What was
+// drawn once is kept, by picture, size and turn.
+#include "common/Picture.h"
+
+#include <QHash>
+#include <QPixmap>
+#include <QSize>
+#include <QString>
+#include <functional>
+
+namespace quillane::ui {
+
+class PictureCache {
+public:
+    QPixmap Render(const Picture& picture, QSize size, qreal pixelRatio);
+    // An SVG resource of the program's own (":/launcher/bar.svg").
+    QPixmap RenderSvg(const QString& resource, QSize size, qreal pixelRatio);
+
+    // How often a picture had to be drawn, and how often it was kept.
+    long Drawn() const { return drawn_; }
+    long Kept() const { return kept_; }
+
+private:
+    QPixmap Lookup(const QString& key, const std::function<QPixmap()>& draw);
+
+    QHash<QString, QPixmap> pixmaps_;
+    long drawn_ = 0, kept_ = 0;
+};
+
+// The one cache of the program's windows.
+PictureCache& SharedPictures();
+// Shorthand for a decoration drawn from the program's own SVG.
+inline QPixmap RenderSvg(const QString& resource, QSize size, qreal pixelRatio) {
+    return SharedPictures().RenderSvg(resource, size, pixelRatio);
+}
+
+} // namespace quillane::ui

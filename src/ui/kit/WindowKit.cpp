@@ -1,0 +1,203 @@
+#include "WindowKit.h"
+
+#include "Theme.h"
+
+#include <QFrame>
+#include <QStyleOptionButton>
+#include <QStylePainter>
+
+namespace quillane::ui::kit {
+
+QLabel* Label(const QString& path, const char* role, bool wrap) {
+    auto* label = Named(new QLabel, path);
+    label->setWordWrap(wrap);
+    if (role)
+        Role(label, role);
+    return label;
+}
+
+QLabel* Link(const QString& path) {
+    auto* label = Label(path, "link");
+    label->setCursor(Qt::PointingHandCursor);
+    return label;
+}
+
+QPushButton* Button(const QString& path, bool primary) {
+    auto* button = Named(new QPushButton, path);
+    if (primary)
+        Role(button, "primary");
+    button->setCursor(Qt::PointingHandCursor);
+    return button;
+}
+
+QCheckBox* Check(const QString& path) {
+    return Named(new QCheckBox, path);
+}
+
+QRadioButton* Option(const QString& path) {
+    auto* option = Named(new QRadioButton, path);
+    option->setCursor(Qt::PointingHandCursor);
+    return option;
+}
+
+QComboBox* DropDown(const QString& path) {
+    return Named(new QComboBox, path);
+}
+
+QPlainTextEdit* TextBox(const QString& path, bool readOnly) {
+    auto* box = Named(new QPlainTextEdit, path);
+    box->setVerticalScrollBarPolicy(Qt::ScrollBarAsNeeded);
+    box->setReadOnly(readOnly);
+    return box;
+}
+
+QTextEdit* RichText(const QString& path) {
+    auto* view = Named(new QTextEdit, path);
+    view->setReadOnly(true);
+    return view;
+}
+
+QLabel* Picture(const QString& path, QSize size, const char* role) {
+    auto* label = Named(new QLabel, path);
+    label->setFixedSize(size);
+    label->setAlignment(Qt::AlignCenter);
+    if (role)
+        Role(label, role);
+    return label;
+}
+
+QWidget* Panel(const QString& path) {
+    return Named(new QWidget, path);
+}
+
+QGroupBox* Frame(const QString& path) {
+    return Named(new QGroupBox, path);
+}
+
+QStackedWidget* Stack(std::initializer_list<QWidget*> panels) {
+    auto* stack = new QStackedWidget;
+    for (QWidget* panel : panels)
+        stack->addWidget(panel);
+    return stack;
+}
+
+QHBoxLayout* ButtonRow(std::initializer_list<QWidget*> left,
+                       std::initializer_list<QWidget*> right) {
+    auto* row = new QHBoxLayout;
+    row->setSpacing(10);
+    for (QWidget* w : left)
+        row->addWidget(w);
+    row->addStretch();
+    for (QWidget* w : right)
+        row->addWidget(w);
+    return row;
+}
+
+QFrame* Rule() {
+    auto* rule = Role(new QFrame, "rule");
+    rule->setFixedHeight(2);
+    return rule;
+}
+
+CaptionedPanel::CaptionedPanel(const QString& path) {
+    setObjectName(path);
+    auto* column = new QVBoxLayout(this);
+    column->setContentsMargins(18, 14, 18, 12);
+    column->setSpacing(10);
+    heading_ = Label(path + ".heading", "heading");
+    column->addWidget(heading_);
+    rule_ = Rule();
+    column->addWidget(rule_);
+    content_ = new QVBoxLayout;
+    content_->setSpacing(10);
+    column->addLayout(content_, 1);
+    SetCaption({});
+}
+
+void CaptionedPanel::SetCaption(const QString& caption) {
+    heading_->setText(caption);
+    heading_->setVisible(!caption.isEmpty());
+    rule_->setVisible(!caption.isEmpty());
+}
+
+BareOption::BareOption(const QString& path) {
+    setObjectName(path);
+    QStyleOptionButton option;
+    initStyleOption(&option);
+    const int w = style()->pixelMetric(QStyle::PM_ExclusiveIndicatorWidth, &option, this);
+    const int h = style()->pixelMetric(QStyle::PM_ExclusiveIndicatorHeight, &option, this);
+    setFixedSize(w + 6, h + 6);
+    setCursor(Qt::PointingHandCursor);
+}
+
+void BareOption::paintEvent(QPaintEvent*) {
+    QStylePainter painter(this);
+    QStyleOptionButton option;
+    initStyleOption(&option);
+    option.text.clear();
+    option.rect = rect().adjusted(3, 3, -3, -3);
+    painter.drawPrimitive(QStyle::PE_IndicatorRadioButton, option);
+}
+
+WrapCheck::WrapCheck(const QString& path) {
+    setObjectName(path);
+    QSizePolicy policy(QSizePolicy::Preferred, QSizePolicy::Preferred);
+    policy.setHeightForWidth(true);
+    setSizePolicy(policy);
+}
+
+QSize WrapCheck::Indicator() const {
+    return {style()->pixelMetric(QStyle::PM_IndicatorWidth, nullptr, this),
+            style()->pixelMetric(QStyle::PM_IndicatorHeight, nullptr, this)};
+}
+
+int WrapCheck::TextLeft() const {
+    return Indicator().width() +
+           style()->pixelMetric(QStyle::PM_CheckBoxLabelSpacing, nullptr, this) + 2;
+}
+
+int WrapCheck::heightForWidth(int width) const {
+    const QRect text = fontMetrics().boundingRect(QRect(0, 0, TextWidth(width), 100000),
+                                                  Qt::TextWordWrap, this->text());
+    return std::max(text.height(), Indicator().height()) + 4;
+}
+
+void WrapCheck::paintEvent(QPaintEvent*) {
+    QStylePainter painter(this);
+    QStyleOptionButton option;
+    initStyleOption(&option);
+    option.rect = QRect(QPoint(0, 2), Indicator());
+    painter.drawPrimitive(QStyle::PE_IndicatorCheckBox, option);
+    painter.setPen(
+        palette().color(isEnabled() ? QPalette::Active : QPalette::Disabled, QPalette::WindowText));
+    painter.drawText(QRect(TextLeft(), 2, TextWidth(width()), height() - 2),
+                     Qt::TextWordWrap | Qt::AlignLeft | Qt::AlignTop, text());
+    if (hasFocus()) {
+        QStyleOptionFocusRect focus;
+        focus.initFrom(this);
+        painter.drawPrimitive(QStyle::PE_FrameFocusRect, focus);
+    }
+}
+
+QWidget* SubjectShell(Form& form, QWidget* body, const char* subject, const char* forumLabel) {
+    auto* window = new QWidget;
+    window->setObjectName(QString::fromStdString(form.Name()));
+    theme::SetSubject(window, subject);
+    auto* column = new QVBoxLayout(window);
+    column->setContentsMargins(14, 14, 14, 10);
+    column->addWidget(body, 1);
+
+    // The links that stand below the panels in every state.
+    auto* links = new QFrame;
+    links->setObjectName("fraFullBrand");
+    auto* linkColumn = new QVBoxLayout(links);
+    linkColumn->setContentsMargins(0, 8, 0, 0);
+    for (const char* link : {"lblCobrand", "lblFullBrand", forumLabel})
+        linkColumn->addWidget(Link(link));
+    column->addWidget(links);
+    if (form.Find("cmdNav(1)"))
+        column->addWidget(Button("cmdNav(1)"), 0, Qt::AlignRight);
+    return window;
+}
+
+} // namespace quillane::ui::kit

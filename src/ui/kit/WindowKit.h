@@ -1,0 +1,110 @@
+#pragma once
+// The pieces every window is built from. A widget that shows a control carries
+// the control's path as its object name, so the binder finds it; looks come
+// from the theme through roles, never from a window's own style sheet.
+#include "ui/binding/Adapters.h"
+
+#include <QCheckBox>
+#include <QComboBox>
+#include <QGroupBox>
+#include <QHBoxLayout>
+#include <QLabel>
+#include <QPlainTextEdit>
+#include <QPushButton>
+#include <QRadioButton>
+#include <QStackedWidget>
+#include <QTextEdit>
+#include <QVBoxLayout>
+#include <initializer_list>
+
+namespace quillane::ui::kit {
+
+template <class W> W* Named(W* widget, const QString& path) {
+    widget->setObjectName(path);
+    return widget;
+}
+template <class W> W* Role(W* widget, const char* role) {
+    widget->setProperty("role", role);
+    return widget;
+}
+// "cmdNext", "chkGroup(2)"
+inline QString Path(const char* name, int index) {
+    return QString("%1(%2)").arg(name).arg(index);
+}
+
+QLabel* Label(const QString& path, const char* role = nullptr, bool wrap = true);
+// A label that leads somewhere when clicked.
+QLabel* Link(const QString& path);
+// A button; the primary one of a panel is drawn in the subject's accent.
+QPushButton* Button(const QString& path, bool primary = false);
+QCheckBox* Check(const QString& path);
+QRadioButton* Option(const QString& path);
+QComboBox* DropDown(const QString& path);
+// A multi-line text box with a vertical scroll bar; read-only when the
+// program only shows its text.
+QPlainTextEdit* TextBox(const QString& path, bool readOnly = false);
+// A rich text view that the program writes and the user reads.
+QTextEdit* RichText(const QString& path);
+// A picture control of a fixed size; the picture is drawn at that size.
+QLabel* Picture(const QString& path, QSize size, const char* role = nullptr);
+// A panel: a container the program shows, hides or brings to front.
+QWidget* Panel(const QString& path);
+// A frame with its caption as a title (the binder keeps the title).
+QGroupBox* Frame(const QString& path);
+// Panels stacked in one place; the binder keeps the front one current.
+QStackedWidget* Stack(std::initializer_list<QWidget*> panels);
+// A row of buttons: some at the left, the rest at the right.
+QHBoxLayout* ButtonRow(std::initializer_list<QWidget*> left, std::initializer_list<QWidget*> right);
+// A horizontal rule.
+QFrame* Rule();
+
+// A panel whose caption stands as its heading above its content, with a rule.
+class CaptionedPanel : public QWidget, public CaptionedWidget {
+public:
+    explicit CaptionedPanel(const QString& path);
+    void SetCaption(const QString& caption) override;
+    QVBoxLayout* Content() const { return content_; }
+
+private:
+    QLabel* heading_;
+    QFrame* rule_;
+    QVBoxLayout* content_;
+};
+
+// An option button drawn without its caption: the caption holds the choice's
+// text for the program, and the box beside it is what the user reads.
+class BareOption : public QRadioButton {
+public:
+    explicit BareOption(const QString& path);
+
+protected:
+    void paintEvent(QPaintEvent*) override;
+    bool hitButton(const QPoint&) const override { return true; }
+};
+
+// A check box whose caption is a paragraph: the text wraps under itself
+// beside the box, and the whole area takes the click.
+class WrapCheck : public QCheckBox {
+public:
+    explicit WrapCheck(const QString& path);
+    bool hasHeightForWidth() const override { return true; }
+    int heightForWidth(int width) const override;
+    QSize sizeHint() const override { return {420, heightForWidth(420)}; }
+    QSize minimumSizeHint() const override { return {200, Indicator().height() + 4}; }
+
+protected:
+    void paintEvent(QPaintEvent*) override;
+    bool hitButton(const QPoint& pos) const override { return rect().contains(pos); }
+
+private:
+    QSize Indicator() const;
+    int TextLeft() const;
+    int TextWidth(int width) const { return std::max(40, width - TextLeft()); }
+};
+
+// A subject window: its body in the subject's accent, and below it the links
+// every subject carries (the forum's label is named by each subject) and the
+// exit button where the form has one.
+QWidget* SubjectShell(Form& form, QWidget* body, const char* subject, const char* forumLabel);
+
+} // namespace quillane::ui::kit

@@ -1,0 +1,195 @@
+#include "ShellWindows.h"
+#include "ui/binding/Pictures.h"
+
+#include <QEvent>
+#include <QHBoxLayout>
+#include <QLabel>
+#include <QMainWindow>
+#include <QMdiArea>
+#include <QPainter>
+#include <QPushButton>
+#include <QSvgRenderer>
+#include <QToolButton>
+#include <QVBoxLayout>
+
+namespace quillane::ui {
+
+namespace {
+
+// A panel that draws an SVG stretched over its whole area.
+class SvgBackground : public QWidget {
+public:
+    SvgBackground(const QString& resource, QWidget* parent = nullptr)
+        : QWidget(parent), renderer_(resource) {}
+
+protected:
+    void paintEvent(QPaintEvent*) override {
+        QPainter painter(this);
+        renderer_.render(&painter, rect());
+    }
+
+private:
+    QSvgRenderer renderer_;
+};
+
+// Shows the client area exactly while the welcome panel is hidden.
+class ClientAreaFollower : public QObject {
+public:
+    ClientAreaFollower(QWidget* clientArea, QObject* parent)
+        : QObject(parent), clientArea_(clientArea) {}
+
+protected:
+    bool eventFilter(QObject* watched, QEvent* event) override {
+        if (!event->spontaneous() &&
+            (event->type() == QEvent::Show || event->type() == QEvent::Hide))
+            clientArea_->setVisible(event->type() == QEvent::Hide);
+        return QObject::eventFilter(watched, event);
+    }
+
+private:
+    QWidget* clientArea_;
+};
+
+QLabel* Picture(const QString& name, const QString& resource, QSize size) {
+    auto* label = new QLabel;
+    label->setObjectName(name);
+    label->setFixedSize(size);
+    label->setPixmap(RenderSvg(resource, size, label->devicePixelRatioF()));
+    label->setAlignment(Qt::AlignCenter);
+    return label;
+}
+
+QLabel* Label(const QString& name, const char* role) {
+    auto* label = new QLabel;
+    label->setObjectName(name);
+    label->setProperty("role", role);
+    label->setAlignment(Qt::AlignCenter);
+    return label;
+}
+
+const char* const kEmblems[4] = {":/launcher/emblem-astrology.svg",
+                                 ":/launcher/emblem-numerology.svg", ":/launcher/emblem-tarot.svg",
+                                 ":/launcher/emblem-runes.svg"};
+
+} // namespace
+
+QWidget* BuildLauncher(Form&) {
+    auto* window = new QMainWindow;
+    window->setObjectName("frmMDI");
+    auto* central = new QWidget;
+    auto* column = new QVBoxLayout(central);
+    column->setContentsMargins(0, 0, 0, 0);
+    column->setSpacing(0);
+
+    // The picture bar with the subject buttons, usable while a subject is open.
+    auto* bar = new SvgBackground(":/launcher/bar.svg");
+    bar->setObjectName("Picture1");
+    bar->setFixedHeight(112);
+    auto* barRow = new QHBoxLayout(bar);
+    barRow->setContentsMargins(12, 8, 12, 12);
+    auto* buttons = new QWidget;
+    buttons->setObjectName("picButtonContainer");
+    auto* buttonRow = new QHBoxLayout(buttons);
+    buttonRow->setContentsMargins(0, 0, 0, 0);
+    buttonRow->setSpacing(14);
+    const QSize decorSize(120, 48);
+    buttonRow->addWidget(Picture("Picture2", ":/launcher/decor-1.svg", decorSize));
+    buttonRow->addWidget(Picture("Picture3", ":/launcher/decor-2.svg", decorSize));
+    for (int i = 0; i < 4; ++i) {
+        auto* button = new QToolButton;
+        button->setObjectName(QString("cmdSelectOption(%1)").arg(i));
+        button->setProperty("role", "launch");
+        button->setToolButtonStyle(Qt::ToolButtonTextUnderIcon);
+        button->setIcon(QIcon(kEmblems[i]));
+        button->setIconSize(QSize(48, 48));
+        button->setMinimumWidth(176);
+        button->setCursor(Qt::PointingHandCursor);
+        buttonRow->addWidget(button);
+    }
+    buttonRow->addWidget(Picture("Picture4", ":/launcher/decor-3.svg", decorSize));
+    buttonRow->addWidget(Picture("Picture5", ":/launcher/decor-4.svg", decorSize));
+    barRow->addStretch();
+    barRow->addWidget(buttons);
+    barRow->addStretch();
+    column->addWidget(bar);
+
+    // The welcome panel.
+    auto* welcome = new QWidget;
+    welcome->setObjectName("picMain");
+    welcome->setAttribute(Qt::WA_StyledBackground);
+    auto* texts = new QVBoxLayout(welcome);
+    texts->setSpacing(10);
+    texts->addStretch(2);
+    texts->addWidget(Label("lblCaption(0)", "welcome"));
+    auto* intro = Label("lblCaption(1)", "welcomeIntro");
+    intro->setWordWrap(true);
+    intro->setFixedWidth(760);
+    auto* introRow = new QHBoxLayout;
+    introRow->addStretch();
+    introRow->addWidget(intro);
+    introRow->addStretch();
+    texts->addLayout(introRow);
+    texts->addSpacing(26);
+    texts->addWidget(Label("lblCaption(2)", "welcomeHeading"));
+    texts->addSpacing(6);
+    for (int i = 3; i <= 6; ++i) {
+        auto* row = new QHBoxLayout;
+        row->addStretch();
+        auto* emblem = Picture(QString("emblem%1").arg(i - 3), kEmblems[i - 3], QSize(34, 34));
+        row->addWidget(emblem);
+        auto* subject = Label(QString("lblCaption(%1)").arg(i), "launchLabel");
+        subject->setMinimumWidth(240);
+        subject->setAlignment(Qt::AlignLeft | Qt::AlignVCenter);
+        row->addWidget(subject);
+        row->addSpacing(34);
+        row->addStretch();
+        texts->addLayout(row);
+    }
+    texts->addStretch(3);
+    column->addWidget(welcome, 1);
+
+    // The client area that holds the subject windows.
+    auto* mdi = new QMdiArea;
+    mdi->setObjectName("mdiArea");
+    mdi->setBackground(QColor("#000000"));
+    mdi->setHorizontalScrollBarPolicy(Qt::ScrollBarAsNeeded);
+    mdi->setVerticalScrollBarPolicy(Qt::ScrollBarAsNeeded);
+    mdi->hide();
+    column->addWidget(mdi, 1);
+    // While the welcome panel shows, the client area makes way for it.
+    welcome->installEventFilter(new ClientAreaFollower(mdi, welcome));
+
+    // The bottom bar.
+    auto* bottom = new QWidget;
+    bottom->setObjectName("PicCoBrand");
+    bottom->setAttribute(Qt::WA_StyledBackground);
+    auto* bottomRow = new QHBoxLayout(bottom);
+    bottomRow->setContentsMargins(14, 8, 14, 8);
+    bottomRow->setSpacing(18);
+    auto* logo = Picture("Picture6", ":/launcher/maker-logo.svg", QSize(160, 40));
+    logo->setCursor(Qt::PointingHandCursor);
+    bottomRow->addWidget(logo);
+    auto* fullBrand = Label("Label7", "small");
+    fullBrand->setWordWrap(true);
+    fullBrand->setAlignment(Qt::AlignLeft | Qt::AlignVCenter);
+    fullBrand->setMaximumWidth(560);
+    bottomRow->addWidget(fullBrand, 1);
+    auto* banner = Label("lblZenthoraBanner", "link");
+    bottomRow->addWidget(banner);
+    bottomRow->addStretch();
+    auto* exit = new QPushButton;
+    exit->setObjectName("cmdMdiExit");
+    exit->setCursor(Qt::PointingHandCursor);
+    bottomRow->addWidget(exit);
+    column->addWidget(bottom);
+
+    window->setCentralWidget(central);
+    return window;
+}
+
+void RegisterShellWindows(FormHost& host) {
+    host.RegisterWindow("frmMDI", BuildLauncher);
+    host.RegisterWindow("frmAbout", BuildAbout);
+}
+
+} // namespace quillane::ui
