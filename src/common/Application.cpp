@@ -23,6 +23,13 @@ void Application::RegisterModule(const std::string& name, std::function<Json()> 
     modules_[name] = std::move(variables);
 }
 
+std::vector<std::string> Application::FormNames() const {
+    std::vector<std::string> names;
+    for (const auto& [name, factory] : factories_)
+        names.push_back(name);
+    return names;
+}
+
 std::optional<Json> Application::ModuleVariables(const std::string& name) const {
     auto it = modules_.find(name);
     if (it == modules_.end())

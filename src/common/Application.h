@@ -46,6 +46,8 @@ public:
     void RegisterForm(const std::string& name, Factory factory);
     void RegisterModule(const std::string& name, std::function<Json()> variables);
     bool IsFormName(const std::string& name) const { return factories_.count(name) != 0; }
+    // Every form that can be loaded, by name.
+    std::vector<std::string> FormNames() const;
     std::optional<Json> ModuleVariables(const std::string& name) const;
 
     // The loaded form of that name, or null.

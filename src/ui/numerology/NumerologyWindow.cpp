@@ -150,6 +150,10 @@ QWidget* ResultPanel() {
     font.setPointSizeF(10);
     report->document()->setDefaultFont(font);
     c->addWidget(report, 1);
+    // The page that goes to the printer; the program keeps it hidden.
+    auto* printed = kit::RichText("RTB1");
+    printed->hide();
+    c->addWidget(printed);
     c->addLayout(ButtonRow({kit::Button("cmdPrint")}, {Primary("cmdGoToMain")}));
     return panel;
 }

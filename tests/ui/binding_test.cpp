@@ -1,0 +1,201 @@
+// The generic binding on the offscreen platform: every control of every form
+// has a widget of its kind, and the adapters of tabs, list views, user
+// controls and pop-up menus carry the model to the widget and the user's
+// actions back.
+#include "DesktopSession.h"
+#include "common/ListView.h"
+#include "common/TabStrip.h"
+#include "common/UserControl.h"
+#include "ui/binding/Binder.h"
+
+#include <QComboBox>
+#include <QMenu>
+#include <QPushButton>
+#include <QTabWidget>
+#include <QTest>
+#include <QTimer>
+#include <QTreeWidget>
+#include <QVBoxLayout>
+
+#include <gtest/gtest.h>
+
+using namespace quillane;
+
+namespace {
+
+struct EveryForm : ::testing::Test, quillane::testing::DesktopSession {};
+
+TEST_F(EveryForm, EachControlHasAWidgetOfItsKind) {
+    for (const std::string& name : app->FormNames()) {
+        app->Dispatch([&] { app->Load(name); });
+        ui::Binder* binder = host->BinderOf(name);
+        ASSERT_NE(binder, nullptr) << name << " has no window";
+        EXPECT_TRUE(binder->Unbound().isEmpty())
+            << name << " shows nothing for " << binder->Unbound().join(", ").toStdString();
+        if (name != app->MainForm())
+            app->Dispatch([&] { app->Unload(name); });
+    }
+}
+
+// A day picker made of one drop-down list, as a user control is.
+class DayPicker : public UserControl {
+public:
+    DayPicker(Form& owner, std::string name) : UserControl(owner, std::move(name)) {}
+    std::optional<Json> Property(const std::string& name) const override {
+        if (name == "Picked")
+            return Json(picked);
+        return std::nullopt;
+    }
+    int picked = 0;
+};
+
+// A form with one control of each compound kind.
+class Sampler : public Form {
+public:
+    explicit Sampler(Application& app)
+        : Form(app, "frmSampler"), tabs(AddTyped<TabStrip>("SSTab1", 3)),
+          onSecond(tabs.Place(Add(ControlKind::CommandButton, "cmdSecond", &tabs), 1)),
+          list(AddTyped<ListView>("ListView1")), picker(AddTyped<DayPicker>("dtpDay")),
+          day(Add(ControlKind::ComboBox, "cboDay", &picker)),
+          popup(Add(ControlKind::Menu, "mnuPopUp")), show(Add(ControlKind::Menu, "mnuShow", &popup)),
+          sep(Add(ControlKind::Menu, "mnuSep", &popup)), quit(Add(ControlKind::Menu, "mnuExit", &popup)) {
+        for (int i = 0; i < 3; ++i)
+            tabs.SetTabCaption(i, "Tab &" + std::to_string(i));
+        tabs.TabClick = [this](int previous) { previousTabs.push_back(previous); };
+        list.SetColumns({"Goals"});
+        list.ItemClick = [this](int n) { clicked.push_back(n); };
+        list.ItemCheck = [this](int n) { checked.push_back(n); };
+        for (int d = 1; d <= 31; ++d)
+            day.AddItem(std::to_string(d));
+        day.Click = [this] { picker.picked = day.ListIndex() + 1; };
+        popup.SetCaption("PopUp");
+        popup.SetVisible(false);
+        show.SetCaption("Show");
+        sep.SetCaption("-");
+        quit.SetCaption("Exit");
+        show.Click = [this] { picks.push_back("show"); };
+        quit.Click = [this] { picks.push_back("exit"); };
+    }
+    TabStrip& tabs;
+    Control& onSecond;
+    ListView& list;
+    DayPicker& picker;
+    Control& day;
+    Control &popup, &show, &sep, &quit;
+    std::vector<int> previousTabs, clicked, checked;
+    std::vector<std::string> picks;
+};
+
+QWidget* BuildSampler(Form&) {
+    auto* window = new QWidget;
+    window->setObjectName("frmSampler");
+    auto* column = new QVBoxLayout(window);
+    auto* tabs = new QTabWidget;
+    tabs->setObjectName("SSTab1");
+    for (int i = 0; i < 3; ++i) {
+        auto* page = new QWidget;
+        if (i == 1)
+            (new QVBoxLayout(page))->addWidget(new QPushButton("", page));
+        tabs->addTab(page, QString());
+    }
+    tabs->widget(1)->findChild<QPushButton*>()->setObjectName("cmdSecond");
+    column->addWidget(tabs);
+    auto* list = new QTreeWidget;
+    list->setObjectName("ListView1");
+    column->addWidget(list);
+    auto* picker = new QWidget;
+    picker->setObjectName("dtpDay");
+    auto* combo = new QComboBox(picker);
+    combo->setObjectName("cboDay");
+    column->addWidget(picker);
+    return window;
+}
+
+struct Adapters : ::testing::Test, quillane::testing::DesktopSession {
+    Adapters() {
+        app->RegisterForm("frmSampler", [](Application& a) { return std::make_unique<Sampler>(a); });
+        host->RegisterWindow("frmSampler", BuildSampler);
+        app->Dispatch([this] { app->Show("frmSampler"); });
+        form = static_cast<Sampler*>(app->Find("frmSampler"));
+        window = host->WindowOf("frmSampler");
+    }
+    template <class W> W* Widget(const char* name) const { return window->findChild<W*>(name); }
+    Sampler* form = nullptr;
+    QWidget* window = nullptr;
+};
+
+TEST_F(Adapters, TabsFollowTheModelAndTheUsersChoice) {
+    auto* tabs = Widget<QTabWidget>("SSTab1");
+    EXPECT_EQ(tabs->tabText(2), "Tab 2");
+    app->Dispatch([&] { form->tabs.SetTabEnabled(2, false); });
+    EXPECT_FALSE(tabs->isTabEnabled(2));
+    EXPECT_EQ(form->onSecond.Unreachable(), "hidden") << "a control on a tab not in front";
+
+    tabs->setCurrentIndex(1); // as a click on the tab does
+    EXPECT_EQ(form->tabs.Tab(), 1);
+    EXPECT_EQ(form->previousTabs, std::vector<int>{0});
+    EXPECT_EQ(form->onSecond.Unreachable(), "");
+
+    app->Dispatch([&] { form->tabs.SetTab(0); });
+    EXPECT_EQ(tabs->currentIndex(), 0);
+    EXPECT_EQ(form->previousTabs, (std::vector<int>{0, 1}));
+}
+
+TEST_F(Adapters, AListViewShowsItsItemsAndChecksOnlyWhileChecksAreOn) {
+    auto* tree = Widget<QTreeWidget>("ListView1");
+    app->Dispatch([&] {
+        form->list.SetCheckboxes(true);
+        form->list.Add("_0", "Weekly reading");
+        form->list.Add("_1", "Learn the Cups");
+        form->list.SetSubItem(2, "1");
+    });
+    ASSERT_EQ(tree->topLevelItemCount(), 2);
+    EXPECT_EQ(tree->headerItem()->text(0), "Goals");
+    EXPECT_EQ(tree->topLevelItem(1)->text(0), "Learn the Cups");
+
+    tree->topLevelItem(1)->setCheckState(0, Qt::Checked); // the user ticks it
+    EXPECT_TRUE(form->list.Item(2).checked);
+    EXPECT_EQ(form->checked, std::vector<int>{2});
+    QTest::mouseClick(tree->viewport(), Qt::LeftButton, {},
+                      tree->visualItemRect(tree->topLevelItem(0)).center());
+    EXPECT_EQ(form->clicked, std::vector<int>{1});
+    EXPECT_EQ(form->list.Selected(), 1);
+
+    app->Dispatch([&] { form->list.SetCheckboxes(false); });
+    EXPECT_FALSE(tree->topLevelItem(1)->data(0, Qt::CheckStateRole).isValid());
+    app->Dispatch([&] { form->list.ClearItems(); });
+    EXPECT_EQ(tree->topLevelItemCount(), 0);
+}
+
+TEST_F(Adapters, AUserControlsChildrenAreBoundInsideIt) {
+    auto* day = Widget<QComboBox>("cboDay");
+    EXPECT_EQ(form->day.Path(), "dtpDay.cboDay");
+    EXPECT_EQ(day->count(), 31);
+    day->setCurrentIndex(4);
+    emit day->activated(4); // the user picks 5
+    EXPECT_EQ(form->picker.picked, 5);
+    form->picker.picked = 0;
+    emit day->activated(4); // and picks the shown item again
+    EXPECT_EQ(form->picker.picked, 5) << "a re-pick runs Click";
+    app->Dispatch([&] { form->picker.SetEnabled(false); });
+    EXPECT_FALSE(Widget<QWidget>("dtpDay")->isEnabled());
+}
+
+TEST_F(Adapters, APopUpMenuOffersItsDefaultAndRunsThePick) {
+    QStringList shown;
+    QTimer::singleShot(0, [&] {
+        auto* menu = qobject_cast<QMenu*>(QApplication::activePopupWidget());
+        ASSERT_NE(menu, nullptr);
+        for (QAction* a : menu->actions())
+            shown << (a->isSeparator() ? "-" : a->text());
+        EXPECT_EQ(menu->defaultAction()->text(), "Show");
+        menu->actions().last()->trigger();
+        menu->close();
+    });
+    app->Dispatch([&] { app->PopupMenu(*form, form->popup, &form->show); });
+    EXPECT_EQ(shown, (QStringList{"Show", "-", "Exit"}));
+    EXPECT_EQ(form->picks, std::vector<std::string>{"exit"});
+    EXPECT_FALSE(app->OpenPopup()) << "a window's menu closes when it returns";
+}
+
+} // namespace
