@@ -97,12 +97,17 @@ def cup(fill=GOLD):
             f'<ellipse cx="0" cy="16" rx="9" ry="3" fill="{fill}" stroke="{NAVY}" stroke-width="1.4"/>')
 
 
-def wand():
+def wand(length=40):
+    """A budding wand; held ones are longer and bud along their length."""
+    h = length / 2
     leaf = '<ellipse cx="0" cy="0" rx="4.5" ry="2" fill="#8fbf5a" stroke="#2c4a1c" stroke-width="0.8"/>'
-    return ('<rect x="-2.6" y="-20" width="5.2" height="40" rx="2.6" fill="#c9934f" '
+    buds = [(6, -h + 6, -30), (-6, -h + 16, 30), (6, -h + 29, -30)]
+    if length > 60:
+        buds += [(-6, h * 0.15, 30), (6, h * 0.5, -30)]
+    return (f'<rect x="-2.6" y="{f(-h)}" width="5.2" height="{f(length)}" rx="2.6" fill="#c9934f" '
             f'stroke="{NAVY}" stroke-width="1.3"/>'
-            '<path d="M-2.6,-12 h5.2 M-2.6,6 h5.2" stroke="#8a5a2b" stroke-width="1"/>'
-            + g(leaf, 6, -14, 1, -30) + g(leaf, -6, -4, 1, 30) + g(leaf, 6, 9, 1, -30))
+            f'<path d="M-2.6,{f(-h + 8)} h5.2 M-2.6,{f(h - 14)} h5.2" stroke="#8a5a2b" stroke-width="1"/>'
+            + "".join(g(leaf, x, y, 1, a) for x, y, a in buds))
 
 
 def pentacle():
@@ -265,6 +270,26 @@ def cloud(x, y, s=1):
              f'C30,-4 30,6 22,6 Z" fill="{IVORY}" stroke="#b9b6cf" stroke-width="1.2"/>', x, y, s)
 
 
+def sunflower():
+    """A sunflower's head, about 40 across."""
+    return ("".join(g(f'<ellipse cx="0" cy="-10" rx="4" ry="9" fill="#f5c542" stroke="{DGOLD}" stroke-width="0.6"/>', 0, 0, 1, a)
+                    for a in range(0, 360, 30))
+            + '<circle cx="0" cy="0" r="7" fill="#6b4a2b"/>')
+
+
+def lion_head():
+    """A lion's face in its mane, about 140 across."""
+    mane = "".join(f'<circle cx="{f(52 * math.cos(math.radians(a)))}" cy="{f(52 * math.sin(math.radians(a)))}" r="17" '
+                   f'fill="#c98b2e" stroke="{NAVY}" stroke-width="1"/>' for a in range(0, 360, 30))
+    face = (f'<circle cx="0" cy="0" r="48" fill="#c98b2e"/>'
+            f'<ellipse cx="0" cy="4" rx="34" ry="38" fill="#efc76a" stroke="{NAVY}" stroke-width="1.4"/>'
+            f'<path d="M-16,-10 q6,-5 12,0 M4,-10 q6,-5 12,0" stroke="{NAVY}" stroke-width="2.4" fill="none" stroke-linecap="round"/>'
+            f'<path d="M-8,10 H8 L0,20 Z" fill="{NAVY}"/>'
+            f'<path d="M0,20 V26 M0,26 q-8,8 -14,2 M0,26 q8,8 14,2" stroke="{NAVY}" stroke-width="2" fill="none" stroke-linecap="round"/>'
+            f'<circle cx="-26" cy="-30" r="7" fill="#efc76a" stroke="{NAVY}"/><circle cx="26" cy="-30" r="7" fill="#efc76a" stroke="{NAVY}"/>')
+    return mane + face
+
+
 def major_emblem(n):
     if n == 0:  # The Fool: sun, cliff edge, bindle and white rose
         return (f'<circle cx="44" cy="-82" r="17" fill="{GOLD}"/>' + rays(44, -82, 22, 32, 12)
@@ -353,16 +378,8 @@ def major_emblem(n):
                 + g(sphinx.replace("{c}", "#0b0d1e").replace("{GOLD}", GOLD), -30, 100, 1.2)
                 + g(sphinx.replace("{c}", IVORY).replace("{GOLD}", GOLD), 30, 100, 1.2).replace('scale(1.2)', 'scale(-1.2,1.2)'))
     if n == 8:  # Strength: the lion's head under the lemniscate
-        mane = "".join(f'<circle cx="{f(52 * math.cos(math.radians(a)))}" cy="{f(52 * math.sin(math.radians(a)))}" r="17" '
-                       f'fill="#c98b2e" stroke="{NAVY}" stroke-width="1"/>' for a in range(0, 360, 30))
-        face = (f'<circle cx="0" cy="0" r="48" fill="#c98b2e"/>'
-                f'<ellipse cx="0" cy="4" rx="34" ry="38" fill="#efc76a" stroke="{NAVY}" stroke-width="1.4"/>'
-                f'<path d="M-16,-10 q6,-5 12,0 M4,-10 q6,-5 12,0" stroke="{NAVY}" stroke-width="2.4" fill="none" stroke-linecap="round"/>'
-                f'<path d="M-8,10 H8 L0,20 Z" fill="{NAVY}"/>'
-                f'<path d="M0,20 V26 M0,26 q-8,8 -14,2 M0,26 q8,8 14,2" stroke="{NAVY}" stroke-width="2" fill="none" stroke-linecap="round"/>'
-                f'<circle cx="-26" cy="-30" r="7" fill="#efc76a" stroke="{NAVY}"/><circle cx="26" cy="-30" r="7" fill="#efc76a" stroke="{NAVY}"/>')
         flowers = "".join(g(rose(RED), x, y, 0.5) for x, y in [(-70, 96), (-40, 108), (0, 112), (40, 108), (70, 96)])
-        return g(lemniscate(26, 4.5), 0, -96) + g(mane + face, 0, 18) + flowers
+        return g(lemniscate(26, 4.5), 0, -96) + g(lion_head(), 0, 18) + flowers
     if n == 9:  # The Hermit: the lantern of the six-pointed star, the staff, the peak
         return (f'<path d="M-87,126 L-20,60 L0,74 L30,40 L87,110 V126 Z" fill="#cfd4e6" stroke="{IVORY}" stroke-width="1"/>'
                 f'<path d="M-20,60 L-10,80 L0,74 L10,60 L30,40" fill="none" stroke="{NAVY}" stroke-width="0.8" opacity="0.5"/>'
@@ -486,13 +503,10 @@ def major_emblem(n):
         wavy = "".join(g(f'<path d="M0,-46 q5,-7 0,-14 q-5,-7 0,-14 q5,-6 0,-12" fill="none" stroke="{GOLD}" stroke-width="3" stroke-linecap="round"/>', 0, 0, 1, a)
                        for a in range(0, 360, 45))
         straight = "".join(g(f'<polygon points="-5,-46 5,-46 0,-84" fill="{GOLD}"/>', 0, 0, 1, a) for a in range(22, 360, 45))
-        flower = ("".join(g(f'<ellipse cx="0" cy="-10" rx="4" ry="9" fill="#f5c542" stroke="{DGOLD}" stroke-width="0.6"/>', 0, 0, 1, a)
-                          for a in range(0, 360, 30))
-                  + '<circle cx="0" cy="0" r="7" fill="#6b4a2b"/>')
         return (g(straight + wavy + face, 0, -40)
                 + f'<path d="M-87,78 H87 V126 H-87 Z" fill="#a8804f" stroke="{NAVY}" stroke-width="1"/>'
                 + "".join(f'<path d="M{x},78 V126 M-87,{y} H87" stroke="#7d5c36" stroke-width="1"/>' for x, y in [(-60, 94), (-20, 110), (20, 94), (60, 110)])
-                + "".join(f'<path d="M{x},78 V64" stroke="#4c8047" stroke-width="3"/>' + g(flower, x, 56, 1.05) for x in (-56, 0, 56)))
+                + "".join(f'<path d="M{x},78 V64" stroke="#4c8047" stroke-width="3"/>' + g(sunflower(), x, 56, 1.05) for x in (-56, 0, 56)))
     if n == 20:  # Judgement: the trumpet with its banner of the cross, clouds, the rising dead
         banner = (f'<rect x="-16" y="0" width="32" height="30" fill="{IVORY}" stroke="{NAVY}" stroke-width="1.2"/>'
                   f'<path d="M0,4 V26 M-12,15 H12" stroke="{RED}" stroke-width="5"/>')
