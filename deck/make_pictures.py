@@ -672,6 +672,42 @@ def lion_head():
     return mane + face
 
 
+def angel_head():
+    """The World's angel: a face with golden hair between two wings, about 34 across."""
+    wing = shape("M-6,2 C-9,-9 -17,-13 -17,-4 C-14,-5 -13,-2 -16,1 C-13,0 -10,3 -11,7 C-8,4 -6,5 -6,2 Z", IVORY, 0.9)
+    return (wing + mirror(wing) + f'<circle cx="0" cy="-2" r="10.5" fill="none" stroke="{GOLD}" stroke-width="1.6"/>'
+            + head(0, 1, GOLD, r=8.5))
+
+
+def eagle_head():
+    """An eagle's head in profile, looking right, about 30 across."""
+    return (shape("M-11,14 C-13,2 -9,-10 1,-11 C7,-11 11,-8 12,-4 L9,0 C5,3 1,6 -1,10 C-2,12 -3,13 -3,14 Z", "#f3efe6", 1.1)
+            + shape("M-11,14 C-12,8 -10,4 -7,2 C-6,6 -4,10 -3,14 Z", "#7a4a24", 0.8)
+            + shape("M10,-6 C16,-7 19,-3 18,3 C16,0 14,-1 9,0 Z", GOLD, 1)
+            + f'<circle cx="5" cy="-5" r="1.5" fill="{NAVY}"/>'
+            + f'<path d="M1,-7.5 L8,-7" stroke="{NAVY}" stroke-width="1.1" stroke-linecap="round"/>')
+
+
+def sphinx(body, stripe, face, edge):
+    """A sphinx lying down and looking out: a lion's body and a human face in a
+    striped headdress. Faces right; about 74 long and 46 tall."""
+    tail = (f'<path d="M-30,9 C-36,9 -37,3 -33,0" fill="none" stroke="{edge}" stroke-width="4.4" stroke-linecap="round"/>'
+            f'<path d="M-30,9 C-36,9 -37,3 -33,0" fill="none" stroke="{body}" stroke-width="2.4" stroke-linecap="round"/>')
+    lion = (shape("M-32,12 C-36,-2 -28,-14 -16,-13 C-6,-12 2,-14 8,-15 C16,-15 21,-8 21,2 V4 H35 C39,4 40,8 39,12 Z",
+                  body, 1.2, edge)
+            + f'<path d="M-27,12 C-30,0 -20,-7 -12,-3 C-7,0 -8,7 -4,10 H3 M21,8 H37 M36,4 V12 M33,4 V8 M33,8 V12" '
+            f'fill="none" stroke="{edge}" stroke-width="1" stroke-linejoin="round"/>')
+    nemes = (shape("M4,-6 L6,-24 C7,-34 23,-34 24,-24 L26,-6 Z", stripe, 1.2, edge)
+             + "".join(f'<path d="M{f(5.6 - k * 0.1)},{y} H{f(24.4 + k * 0.1)}" stroke="{body}" stroke-width="1.6"/>'
+                       for k, y in enumerate(range(-22, -6, 4))))
+    return (tail + lion + nemes
+            + f'<ellipse cx="15" cy="-20" rx="6" ry="7.5" fill="{face}" stroke="{edge}" stroke-width="1"/>'
+            + f'<path d="M8,-27 C11,-30 19,-30 22,-27" fill="none" stroke="{GOLD}" stroke-width="2"/>'
+            + f'<circle cx="12.6" cy="-21" r="1" fill="{edge}"/><circle cx="17.4" cy="-21" r="1" fill="{edge}"/>'
+            + f'<path d="M13.5,-16.5 H16.5" stroke="{edge}" stroke-width="0.9"/>'
+            + shape("M13.8,-12.6 H16.2 L15.8,-8 H14.2 Z", stripe, 0.7, edge))
+
+
 def major_emblem(n):
     if n == 0:  # The Fool: sun, cliff edge, bindle and white rose
         return (f'<circle cx="44" cy="-82" r="17" fill="{GOLD}"/>' + rays(44, -82, 22, 32, 12)
@@ -745,20 +781,19 @@ def major_emblem(n):
                 + g(wing, -2, -42) + g(wing, 2, -42).replace('translate(2,-42)', 'translate(2,-42) scale(-1,1)')
                 + f'<circle cx="0" cy="-42" r="7" fill="{RED}" stroke="{NAVY}"/>'
                 + g(heart(RED), -20, 54, 2.4) + g(heart(IVORY), 20, 54, 2.4))
-    if n == 7:  # The Chariot: starry canopy, the car and its two wheels, black and white sphinxes
+    if n == 7:  # The Chariot: starry canopy, the car and its two wheels, the black and the white sphinx
         stars = "".join(star(x, -88, 6, 4, 1.6, IVORY, IVORY, 0.3) for x in range(-50, 60, 20))
         wheel = (f'<circle cx="0" cy="0" r="22" fill="none" stroke="{GOLD}" stroke-width="4"/>'
                  + rays(0, 0, 3, 20, 8, GOLD, 2) + f'<circle cx="0" cy="0" r="4" fill="{GOLD}"/>')
-        sphinx = ('<path d="M-18,14 H18 V6 C18,-4 10,-6 6,-4 C6,-16 -6,-18 -8,-8 C-14,-6 -18,0 -18,14 Z" '
-                  'fill="{c}" stroke="{GOLD}" stroke-width="1.2"/>')
-        return (f'<path d="M-64,-98 H64 V-80 H-64 Z" fill="#2b3a8a" stroke="{GOLD}" stroke-width="1.5"/>' + stars
-                + f'<path d="M-54,-80 V-10 M54,-80 V-10" stroke="{GOLD}" stroke-width="4"/>'
-                f'<path d="M-60,-10 H60 L52,56 H-52 Z" fill="{IVORY}" stroke="{GOLD}" stroke-width="2"/>'
-                f'<circle cx="0" cy="18" r="10" fill="{GOLD}"/>'
-                f'<path d="M-34,14 C-24,4 -14,12 -10,18 M34,14 C24,4 14,12 10,18" fill="none" stroke="{GOLD}" stroke-width="4" stroke-linecap="round"/>'
-                + g(wheel, -56, 64) + g(wheel, 56, 64)
-                + g(sphinx.replace("{c}", "#0b0d1e").replace("{GOLD}", GOLD), -30, 100, 1.2)
-                + g(sphinx.replace("{c}", IVORY).replace("{GOLD}", GOLD), 30, 100, 1.2).replace('scale(1.2)', 'scale(-1.2,1.2)'))
+        car = (f'<path d="M-64,-98 H64 V-80 H-64 Z" fill="#2b3a8a" stroke="{GOLD}" stroke-width="1.5"/>' + stars
+               + f'<path d="M-54,-80 V-10 M54,-80 V-10" stroke="{GOLD}" stroke-width="4"/>'
+               f'<path d="M-60,-10 H60 L52,56 H-52 Z" fill="{IVORY}" stroke="{GOLD}" stroke-width="2"/>'
+               f'<circle cx="0" cy="18" r="10" fill="{GOLD}"/>'
+               f'<path d="M-34,14 C-24,4 -14,12 -10,18 M34,14 C24,4 14,12 10,18" fill="none" stroke="{GOLD}" stroke-width="4" stroke-linecap="round"/>'
+               + g(wheel, -56, 64) + g(wheel, 56, 64))
+        return (g(car, 0, -18)
+                + g(sphinx("#15172a", GOLD, "#3a3654", GOLD), -44, 104, 1.1)
+                + g(mirror(sphinx(IVORY, "#3f6fc0", "#f7efdc", NAVY)), 44, 104, 1.1))
     if n == 8:  # Strength: the lion's head under the lemniscate
         flowers = "".join(g(rose(RED), x, y, 0.5) for x, y in [(-70, 96), (-40, 108), (0, 112), (40, 108), (70, 96)])
         return g(lemniscate(26, 4.5), 0, -96) + g(lion_head(), 0, 18) + flowers
@@ -903,7 +938,7 @@ def major_emblem(n):
                 + waves(106, 80, "#9cc2f0", 2, 10)
                 + "".join(f'<rect x="{x - 16}" y="{y}" width="32" height="14" fill="#4a4658" stroke="{NAVY}"/>' + g(figure, x, y, 1.3)
                           for x, y in [(-50, 74), (0, 64), (50, 74)]))
-    if n == 21:  # The World: the laurel wreath bound with red ribbons, the four living creatures
+    if n == 21:  # The World: the laurel wreath bound with red ribbons; the angel, eagle, bull and lion
         leaves = []
         for i in range(44):
             a = math.radians(i * 360 / 44)
@@ -912,8 +947,11 @@ def major_emblem(n):
             side = 6 if i % 2 == 0 else -6
             leaves.append(g(f'<ellipse cx="0" cy="{side}" rx="8" ry="3.4" fill="#6fae4d" stroke="#2c4a1c" stroke-width="0.6"/>', x, y, 1, ang))
         ribbon = (f'<path d="M0,0 C-12,-10 -12,10 0,0 C12,-10 12,10 0,0 Z" fill="none" stroke="{RED}" stroke-width="3"/>')
-        corners = "".join(f'<circle cx="{x}" cy="{y}" r="13" fill="none" stroke="{GOLD}" stroke-width="1.8"/>'
-                          + star(x, y, 4, 8, 3, IVORY, GOLD, 0.5) for x, y in [(-68, -106), (68, -106), (-68, 106), (68, 106)])
+        creatures = [(angel_head(), -66, -104, 1), (mirror(eagle_head()), 66, -104, 1.1),
+                     (bull_head(), -66, 104, 0.62), (lion_head(), 66, 104, 0.19)]
+        corners = "".join(f'<circle cx="{x}" cy="{y}" r="18" fill="{DARK}" opacity="0.55"/>' + cloud(x, y + 12, 0.7)
+                          + g(art, x, y, s) + f'<circle cx="{x}" cy="{y}" r="18" fill="none" stroke="{GOLD}" stroke-width="1.6"/>'
+                          for art, x, y, s in creatures)
         return (f'<ellipse cx="0" cy="0" rx="50" ry="80" fill="none" stroke="#3f7a35" stroke-width="3"/>'
                 + "".join(leaves) + g(ribbon, 0, -80, 1.3) + g(ribbon, 0, 80, 1.3)
                 + f'<ellipse cx="0" cy="0" rx="38" ry="66" fill="#2b3a8a" opacity="0.6"/>'
