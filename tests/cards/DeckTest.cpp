@@ -5,6 +5,7 @@
 
 #include <QByteArray>
 #include <QImage>
+#include <QString>
 
 #include <gtest/gtest.h>
 
@@ -93,6 +94,19 @@ TEST_F(DeckTest, EveryCardHasSevenDifferentKeywordsToShow) {
         OpenRecordset(keywords, cn, "SELECT DISTINCT * FROM tblKeywords WHERE Not CardID=" + id);
         EXPECT_GE(keywords->RecordCount(), 20) << id;
     }
+}
+
+TEST_F(DeckTest, NoKeywordStandsOnMoreThanTwoCards) {
+    // The keyword test offers other cards' keywords as wrong answers; one that
+    // many cards share would often be right as well.
+    std::shared_ptr<Recordset> keywords;
+    OpenRecordset(keywords, cn, "SELECT DISTINCT * FROM tblKeywords WHERE Not CardID=0");
+    std::map<QString, std::set<long>> cardsOf;
+    for (keywords->MoveFirst(); !keywords->Eof(); keywords->MoveNext())
+        cardsOf[QString::fromStdString(keywords->Field("Keyword").AsString()).toLower()].insert(
+            keywords->Field("CardID").AsLong());
+    for (const auto& [word, cards] : cardsOf)
+        EXPECT_LE(cards.size(), 2u) << word.toStdString();
 }
 
 TEST_F(DeckTest, EveryPictureIsACompleteCardSizedPicture) {
