@@ -140,8 +140,11 @@ void Binder::Update(Control& control, Prop prop) {
         }
         return;
     }
-    if (auto it = adapters_.find(&control); it != adapters_.end())
+    if (auto it = adapters_.find(&control); it != adapters_.end()) {
+        if (listener_)
+            listener_(control, prop);
         it->second->Refresh(prop);
+    }
 }
 
 } // namespace quillane::ui

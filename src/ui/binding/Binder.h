@@ -46,6 +46,10 @@ public:
     // How many widget properties the binder has set since it was made.
     long Refreshes() const { return refreshes_; }
     void CountRefresh() { ++refreshes_; }
+    // Told of every property the binder sets on a widget (for measuring).
+    void SetRefreshListener(std::function<void(const Control&, Prop)> listener) {
+        listener_ = std::move(listener);
+    }
 
 private:
     QWidget* Find(const Control& control) const;
@@ -61,6 +65,7 @@ private:
     QList<QMenu*> menus_;
     QStringList unbound_;
     long refreshes_ = 0;
+    std::function<void(const Control&, Prop)> listener_;
     bool detached_ = false;
 };
 
