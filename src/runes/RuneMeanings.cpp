@@ -20,54 +20,49 @@ const std::array<std::string_view, kStones> kNormalMeaning = {
     "This rune may be linked to Frey or Freya thus making it a strong omen for "
     "fertility. This rune should never be taken lightly.",
     // 1 Uruz
-    "The rune represents 'aurochs' or wild bison like animals. It stands for raw "
-    "strength, endurance and the untamed power of nature. This is a rune of good health "
-    "and vitality, and it brings the courage to face every challenge that comes your "
-    "way. It often marks the start of a new phase in your life, when opportunities open "
-    "up and your efforts are rewarded.\r\n"
-    "The rune also speaks of the spirit that drives you forward. Trust your instincts "
-    "now, and keep harmony between your body and your mind.",
+    "The rune represents 'aurochs' or wild bison like animals. It carries the raw strength, "
+    "endurance and untamed power of those beasts. This is a rune of good health and vitality, and "
+    "it brings the courage to face every challenge that comes your way. It often marks the start "
+    "of a fresh phase in your life, when opportunities open up and your efforts are rewarded.\r\n"
+    "The rune also speaks of the spirit that drives you forward. Trust your instincts now, and "
+    "keep your body and your mind in harmony.",
     // 2 Thurisaz
-    "This is also known as the troll or 'thorn' rune. It stands for the thorn that "
-    "guards the rose and for the hammer of Thor that defends the gods against the "
-    "giants. It is a rune of protection and of forceful action, a power that can break "
-    "down what stands in your way. Used wisely it shields you and your home from harm; "
-    "used carelessly it can turn against you and cause destruction. The rune asks you to "
-    "think before you act and to use your willpower with care. A decision may have to be "
-    "made soon, and this rune promises that you have the strength to make it. It can "
-    "also mean a meeting with someone who will change your views or open a long closed "
-    "door for you.",
+    "This is also known as the troll or 'thorn' rune. Like the thorn that guards the rose, or the "
+    "hammer of Thor that defends the gods against the giants, it is a rune of protection and of "
+    "forceful action, a power that can break down whatever stands in your way. Used wisely it "
+    "shields you and your home from harm; used carelessly it can turn against you and cause "
+    "destruction. The rune asks you to think before you act and to use your willpower with care. A "
+    "big decision may have to be made soon, and this rune promises that you have the strength to "
+    "make it. It can also mean a meeting with someone who will change your views or open a long "
+    "closed door in your life.",
     // 3 Ansuz
-    "This rune means 'god' or 'deity'. It is linked to Odin, the father of the gods, who "
-    "gave the runes to humankind. It stands for the spoken word, for wisdom and for "
-    "messages that come to you from others or from within. You may receive good advice "
-    "from an older person, pass an examination or find the right words at the right "
-    "moment. It promises knowledge, a fair judgment and a rebirth of the spirit.",
+    "This rune means 'god' or 'deity'. It belongs to Odin, the father of the gods, who hung nine "
+    "nights on the world tree to win the runes for mankind. It rules wisdom, the spoken word and "
+    "messages from others or from within. You may get good advice from an older person, pass an "
+    "examination or find the right words at the right moment. It promises knowledge, a fair "
+    "judgment and a rebirth of the spirit.",
     // 4 Raidho
-    "This rune represents the 'wheel of life'. It stands for travel, movement and the "
-    "rhythm that carries all things forward. A journey may be ahead of you, either a "
-    "real one or a journey of the spirit. The rune favors moving house, changing jobs "
-    "and setting out on new paths. It also asks you to find your own pace and to keep "
-    "your life in order. Things will move the right way if you act at the right time and "
-    "listen to your own inner voice.",
+    "This rune represents the 'wheel of life'. Travel, movement and the rhythm that carries all "
+    "things forward are its domain. A journey may be ahead of you, either a real one or a journey "
+    "of the spirit. The rune favors moving house, changing jobs and setting out on new paths. It "
+    "also asks you to find your own pace, and to keep your life in order. Things will go the right "
+    "way if you act at the right time and listen to your own inner voice.",
     // 5 Kenaz
-    "This is the 'fire' rune. It stands for the torch that lights the way and the warmth "
-    "of the hearth. It brings knowledge, clarity and creative power. It can mean the "
-    "start of a new relationship or renewed passion. Things that were hidden will come "
-    "to light. The rune promises a time of learning, fertile ideas and good health for "
-    "you and your kin.",
+    "This is the 'fire' rune. Picture the torch that lights the way and the warmth of the hearth. "
+    "It brings knowledge, clarity and creative power, and it can mean the start of a new "
+    "relationship or a renewed passion. Things that were hidden will come to light. The rune "
+    "promises a time of learning, fertile ideas and good health for you and your kin.",
     // 6 Gebo
-    "This is the rune of 'exchange'. It stands for gifts given and received, for "
-    "partnership and for the bond between any two people. It can mean a marriage, a "
-    "business partnership or a friendship that grows stronger. The rune reminds you that "
-    "every gift asks for something in return and that a balance must be kept. It "
-    "promises generosity, harmony and help. Be open to what is offered, and give freely "
-    "of what you have yourself.",
+    "This is the rune of 'exchange'. Gifts given and received, partnership and the bond between "
+    "any two people are its themes. It can mean a marriage, a business partnership or a friendship "
+    "that grows stronger. The rune reminds you that each gift asks for something in return and "
+    "that a balance must be kept. It promises generosity, harmony and help when you need it. Be "
+    "open to what is offered, and give freely of what you have.",
     // 7 Wunjo
-    "This rune is referred to as the 'wish card' and is the happiness rune. It stands "
-    "for joy, comforts and the fulfillment of your wishes. Your troubles may be coming "
-    "to an end and a time of pleasure and success lies ahead. The rune promises harmony "
-    "at home and at work, and good fellowship with all the people around you.",
+    "This rune is referred to as the 'wish card' and is the happiness rune. Joy, comfort and the "
+    "fulfillment of your wishes are on the way. Your troubles may be coming to an end and a time "
+    "of pleasure and success lies ahead. The rune promises harmony at home and at work, and good "
+    "fellowship with all the people around you.",
     // 8 Hagalaz
     "This rune means 'hail' with respect to hailstones. Hail falls without warning and "
     "breaks what it strikes, yet melting it waters the ground for new growth. The rune "
@@ -76,22 +71,21 @@ const std::array<std::string_view, kStones> kNormalMeaning = {
     "rune promises that what is destroyed will make room for better things, and that you "
     "will be protected through the storm.",
     // 9 Nauthiz
-    "This is the 'need' rune. It stands for hardship and for the lessons of want. Things "
-    "may not go your way for a time and you will need patience. The rune asks you to see "
-    "what you truly need rather than what you crave. It promises that need will teach "
-    "you strength and self reliance.",
+    "This is the 'need' rune. Hardship and the lessons of want are its message. Things might not "
+    "go your way for a time and you will need patience. The rune asks you to see what you truly "
+    "need rather than what you crave. It promises that need will teach you strength and self "
+    "reliance.",
     // 10 Isa
-    "This is the 'ice' rune. It stands for a standstill, a time when all seems frozen "
-    "and nothing moves forward. Plans may come to a halt and feelings may cool between "
-    "you and those you love. Do not force matters now, as pushing against the ice only "
-    "wears you out. The rune asks you to wait, to turn inward and to gather up your "
-    "strength. It promises that the thaw will come in its own time, and that what was "
-    "frozen will be kept safe until then.",
+    "This is the 'ice' rune. It marks a standstill, a time when everything seems frozen and "
+    "nothing moves forward. Plans may come to a halt, and feelings may cool between you and those "
+    "you love. Do not force matters now, as pushing against the ice only wears you out. The rune "
+    "asks you to wait, to turn inward and to gather your strength. It promises that the thaw will "
+    "come in its own time, and that what was frozen will be kept safe until then.",
     // 11 Jera
-    "This rune means the 'harvest'. It stands for the turning of the year and for the "
-    "reward that comes after hard, honest work. What you have sown will now be reaped, "
-    "but only when its season comes. The rune asks for patience and for right action. It "
-    "promises success, plenty and the completion of a cycle in your life.",
+    "This rune means the 'harvest'. It marks the turning of the year and the reward that comes "
+    "after hard, honest work. What you have sown will now be reaped, but only when its proper "
+    "season comes. The rune asks for patience and right action. It promises success, plenty and "
+    "the completion of a whole cycle in your life.",
     // 12 Eihwaz
     "This is the 'yew' rune, the wood used in rune craft and making bows. The yew is an "
     "evergreen tree that lives for centuries and is linked to both death and life. The "
@@ -105,57 +99,55 @@ const std::array<std::string_view, kStones> kNormalMeaning = {
     "promises wisdom and good fortune, and it asks you to trust in the turn of events "
     "even when you cannot see where they lead.",
     // 14 Algiz
-    "This rune means 'defense' and 'protection'. It stands for the elk and for the hand "
-    "raised to ward off harm. You are protected from danger now, and a friend or a "
-    "higher power watches over you. The rune promises a safe place and a refuge, and it "
-    "sharpens your instincts so that you sense danger early.",
+    "This rune means 'defense' and 'protection'. Its shape recalls the antlers of the elk and the "
+    "hand raised to ward off harm. You are protected from danger now, and a friend or a higher "
+    "power watches over you. The rune promises a safe refuge and sharpens your instincts so that "
+    "you notice danger early.",
     // 15 Sowilo
-    "This is the 'sun' rune which indicates victory. It stands for the power of the sun, "
-    "for health, energy and success in all you do. The rune promises that your goals "
-    "will be reached and that a time of good health and happiness lies ahead. Let your "
-    "own light shine forth.",
+    "This is the 'sun' rune which indicates victory. The power of the sun brings energy, vitality "
+    "and success in all you do, and it chases away every doubt. Let your own light shine: the rune "
+    "promises that your goals will be reached and that a time of happiness lies ahead.",
     // 16 Tiwaz
     "This is the rune of the 'warrior'. It is linked to Tyr, the god of law and justice, "
     "who gave his right hand to bind the wolf. It stands for courage, loyalty and "
     "victory in a just cause. A legal matter may soon go your way. The rune promises the "
     "strength to fight for what is right and the support of all who share your goals.",
     // 17 Berkano
-    "This is the 'birch' rune. It stands for the birch tree, the first to grow green in "
-    "spring, and for the mother who nurtures her children. It can mean the birth of a "
-    "child, a new beginning or a time of healing. The rune promises growth, family "
-    "happiness and the rebirth of hope.",
+    "This is the 'birch' rune. The birch is the first tree to grow green in spring, and the rune "
+    "honors the mother who nurtures her children. It can mean the birth of a child, a new "
+    "beginning or a time of healing. The rune promises growth, family happiness and the rebirth of "
+    "hope.",
     // 18 Ehwaz
-    "This is the 'horse' rune. It stands for the trust between a rider and his horse, "
-    "for movement and for steady progress. A change of home or a journey may lie ahead. "
-    "The rune promises loyal allies and teamwork that carries you forward.",
+    "This is the 'horse' rune. Rider and horse must trust each other; the rune speaks of that "
+    "trust and of steady progress. A change of home or a journey may lie ahead. The rune promises "
+    "loyal allies and teamwork that carries you forward.",
     // 19 Mannaz
-    "This is the 'man' rune, as an individual or as a race. It stands for the self and "
-    "for the bonds that tie you to all of humanity. Look at yourself with honesty and be "
-    "open to the help others offer. The rune promises good relations with friends and "
-    "family, and a sharp memory of the wisdom of your ancestors.",
+    "This is the 'man' rune, as an individual or as a race. The self and the bonds that tie you to "
+    "all of humanity are its subjects. Look at yourself with honesty, and be open to the help "
+    "others offer. The rune promises good relations with friends and family, and a sharp memory of "
+    "the wisdom of your ancestors.",
     // 20 Laguz
-    "This is the rune of 'intuitive knowledge' or 'water'. It stands for the sea, the "
-    "lake and the flow of life. Water shapes the hardest stone in time, and this rune "
-    "asks you to follow the flow of events instead of fighting them. Your intuition is "
-    "strong now, and your dreams may carry messages for you. Trust your feelings and let "
-    "them guide your choices. The rune promises emotional healing, fertility and a life "
-    "force that renews itself like the tides.",
+    "This is the rune of 'intuitive knowledge' or 'water'. The sea, the lakes and the flow of life "
+    "belong to it. Water shapes the hardest stone in time, and this rune asks you to follow the "
+    "flow of events instead of fighting them. Your intuition is strong now, and your dreams may "
+    "carry messages for you. Trust your feelings and let them guide your choices. The rune "
+    "promises emotional healing, fertility and a life force that renews itself like the tides.",
     // 21 Ingwaz
-    "This is the 'fertility' rune. It is linked to Ing, the god of the earth and of the "
-    "harvest. It stands for a seed that rests in the ground before it grows. A period of "
-    "rest and gathering strength is needed before a new phase of life begins. The rune "
-    "promises the successful end of a project and the energy to start yet another. It "
-    "also stands for male fertility.",
+    "This is the 'fertility' rune. It is linked to Ing, the god of the earth and of the harvest, "
+    "and to male fertility. Like a seed that rests in the ground before it grows, you need a "
+    "period of rest and of gathering your strength before a new phase of your life can begin. The "
+    "rune promises the successful end of a project and the fresh energy to start yet another.",
     // 22 Dagaz
-    "This is the 'day' rune. It stands for dawn and for the light that breaks after a "
-    "long night. A great change for the better is near, and you may suddenly see your "
-    "situation in a new light. The rune promises awakening, hope and growth. It is a "
-    "good time to start something new or to take a bold step, as the day is on your side.",
+    "This is the 'day' rune. Dawn breaks after a long night, bringing the light of understanding. "
+    "A great change for the better is near, and you may suddenly see your situation in a new "
+    "light. The rune promises awakening, hope and growth. It is a good time to start something new "
+    "or to take a bold step, as the day is on your side.",
     // 23 Othala
-    "This is the 'inheritance' rune. It stands for the family home, for land and for all "
-    "that is passed down from one generation to the next. You may receive an "
-    "inheritance, a gift of property or help from an older relative. The rune promises "
-    "security, prosperity and a strong bond with your family and your ancestors.",
+    "This is the 'inheritance' rune. The family home, the land and all that is handed down from "
+    "one generation to the next belong to it. You may receive an inheritance, a gift of property "
+    "or some help from an older relative. The rune promises security, prosperity and a strong bond "
+    "with your family and your ancestors.",
+
 };
 
 const std::array<std::string_view, kStones> kReverseMeaning = {
@@ -183,9 +175,9 @@ const std::array<std::string_view, kStones> kReverseMeaning = {
     "delay is short and does you no harm. With a negative rune, you may have to change "
     "your plans altogether.",
     // 5 Kenaz
-    "It may lead to isolation or information being hidden from you. A relationship may "
-    "cool or come to an end, and your creative fire may burn very low. Do not lose "
-    "heart, as the light will return in due time. Look after your health.",
+    "It may lead to isolation or information being hidden from you. A relationship may cool or "
+    "end, and your creative fire may burn low. Tiredness or illness may dim your spirits. Do not "
+    "lose heart; the light will return in due time.",
     // 6 Gebo (cannot be reversed)
     "Gebo rune cannot be reversed. The meaning can be understood from the other runes "
     "that fall with it.",
@@ -203,9 +195,8 @@ const std::array<std::string_view, kStones> kReverseMeaning = {
     // 11 Jera (cannot be reversed)
     "This rune is non reversible and has to be read with the surrounding runes.",
     // 12 Eihwaz
-    "This may be a bad time for you. Confusion and doubt may hold you back, and an old "
-    "problem may return. Do not act in haste. Take care of your health and avoid plans "
-    "that carry risk.",
+    "This may be a bad time for you. Confusion and doubt may hold you back, and old problems may "
+    "return. Fear of change may keep you clinging to what is already dead. Avoid risky plans.",
     // 13 Perthro
     "When reversed, this rune can mean death. More often it means the end of a phase, a "
     "secret coming out or an unpleasant surprise. Do not gamble now. Keep your money and "
@@ -220,9 +211,9 @@ const std::array<std::string_view, kStones> kReverseMeaning = {
     "only a brief weakness. With a negative rune, a legal matter or a dispute at work "
     "may go against you.",
     // 17 Berkano
-    "There may be some family problems or troubles on the domestic side. A loved one may "
-    "need your care, or a plan for the home may fail. Be patient and gentle with the "
-    "people close to you. Old grudges may flare up again.",
+    "There may be some family problems or troubles on the domestic side. A loved one may need your "
+    "support, a plan for the home may fail, or an old family quarrel may flare up. Be patient and "
+    "kind with those close to you.",
     // 18 Ehwaz
     "You may be making false friends. A partnership may not be what it seems, and a move "
     "may be delayed. Think twice before you put trust in a new partner or sign a deal.",

@@ -3,6 +3,8 @@
 
 #include "astrology/modLearnAstrology.h"
 
+#include "TextOpenings.h"
+
 #include <gtest/gtest.h>
 
 #include <algorithm>
@@ -326,6 +328,14 @@ TEST_F(AstrologyTables, ParagraphsArePlainTextAndAllDifferent) {
         }
     }
     EXPECT_EQ(seen.size(), 56u);
+}
+
+TEST_F(AstrologyTables, NoOpeningOfThreeWordsStartsMoreThanHalfAColumn) {
+    for (const ParagraphColumn& c : ParagraphColumns()) {
+        const auto rows = c.column.first(Records(c.column));
+        const auto [opening, count] = quillane::testing::MostCommonOpening(rows);
+        EXPECT_LE(2 * count, rows.size()) << c.name << ": \"" << opening << "\"";
+    }
 }
 
 TEST_F(AstrologyTables, LeoIsTheLongestParagraphOfAll) {

@@ -4,12 +4,15 @@
 #include "numerology/NumerologyContent.h"
 #include "numerology/modLearnNumerology.h"
 
+#include "TextOpenings.h"
+
 #include <gtest/gtest.h>
 
 #include <algorithm>
 #include <cctype>
 #include <cstdint>
 #include <set>
+#include <span>
 #include <string>
 #include <type_traits>
 #include <vector>
@@ -399,6 +402,15 @@ TEST_F(NumerologyTables, ParagraphsArePlainSingleLineSecondPersonText) {
         EXPECT_NE(text.front(), ' ');
         EXPECT_EQ(text.back(), '.');
         EXPECT_TRUE(Contains(text, "you"));
+    }
+}
+
+TEST_F(NumerologyTables, NoOpeningOfThreeWordsStartsMoreThanHalfASubject) {
+    for (int s = 0; s < 15; ++s) {
+        const std::span rows(num::strInterpretation.begin() + num::intFirstRow[s],
+                             num::strInterpretation.begin() + num::intLastRow[s] + 1);
+        const auto [opening, count] = quillane::testing::MostCommonOpening(rows);
+        EXPECT_LE(2 * count, rows.size()) << num::strSubject[s] << ": \"" << opening << "\"";
     }
 }
 

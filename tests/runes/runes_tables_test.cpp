@@ -3,10 +3,13 @@
 // the Runes subject rely on, and the stone pictures.
 #include "runes/modLearnRunes.h"
 
+#include "TextOpenings.h"
+
 #include <gtest/gtest.h>
 
 #include <algorithm>
 #include <cstdlib>
+#include <cstring>
 #include <filesystem>
 #include <fstream>
 #include <map>
@@ -327,6 +330,22 @@ TEST_F(RuneTables, ParagraphsOpenAsGivenAndHaveTheirExactLength) {
         if (normal.size() > std::string(p.normalOpening).size()) {
             EXPECT_EQ(normal[std::string(p.normalOpening).size()], ' ');
         }
+    }
+}
+
+// The openings themselves are fixed; what follows them, and the warnings of
+// the reversible stones, are written freely and should not run in one mould.
+TEST_F(RuneTables, NoOpeningOfThreeWordsRunsThroughMoreThanHalfAColumn) {
+    std::vector<std::string> afterOpening, reverse;
+    for (const Paragraphs& p : kParagraphs) {
+        afterOpening.push_back(strNormalMeaning[p.stone].substr(std::strlen(p.normalOpening)));
+        if (p.reverseOpening != nullptr) {
+            reverse.push_back(strReverseMeaning[p.stone]);
+        }
+    }
+    for (const auto* texts : {&afterOpening, &reverse}) {
+        const auto [opening, count] = quillane::testing::MostCommonOpening(*texts);
+        EXPECT_LE(2 * count, texts->size()) << "\"" << opening << "\"";
     }
 }
 
