@@ -7,8 +7,8 @@
 #include "platform/DesktopServices.h"
 #include "platform/IniSettingsStore.h"
 #include "shell/StartUp.h"
-#include "ui/binding/FormHost.h"
 #include "ui/binding/Binder.h"
+#include "ui/binding/FormHost.h"
 
 #include "DesktopSession.h"
 #include <QAbstractButton>
@@ -90,9 +90,13 @@ TEST_F(RunesUi, AStepOfTheWalkSetsOnlyWhatChanged) {
         return values;
     };
     const auto before = state();
-    const long drawn = pictures.Drawn();
+    const long drawn = pictures.Drawn(), sets = binder->Refreshes();
     std::set<std::string> refreshed;
-    binder->SetRefreshListener([&](const Control& c, Prop) { refreshed.insert(c.Path()); });
+    long notices = 0;
+    binder->SetRefreshListener([&](const Control& c, Prop) {
+        refreshed.insert(c.Path());
+        ++notices;
+    });
     Click("frmLearnRunesMain", "cmdNext");
     std::set<std::string> changed;
     for (const auto& [property, value] : state())
@@ -100,6 +104,7 @@ TEST_F(RunesUi, AStepOfTheWalkSetsOnlyWhatChanged) {
             changed.insert(property.substr(0, property.rfind('.')));
     EXPECT_GE(changed.size(), 8u) << "the next stone's name, pictures and texts";
     EXPECT_EQ(refreshed, changed);
+    EXPECT_EQ(binder->Refreshes() - sets, notices) << "one widget property set a change";
     EXPECT_EQ(pictures.Drawn(), drawn) << "a stone seen before is not drawn again";
 }
 

@@ -3,14 +3,14 @@
 // controls and pop-up menus carry the model to the widget and the user's
 // actions back.
 #include "DesktopSession.h"
-#include "common/ListView.h"
-#include "common/TabStrip.h"
-#include "common/UserControl.h"
+#include "SamplerForm.h"
 #include "ui/binding/Binder.h"
 
 #include <QComboBox>
+#include <QLineEdit>
 #include <QMenu>
 #include <QPushButton>
+#include <QStackedWidget>
 #include <QTabWidget>
 #include <QTest>
 #include <QTimer>
@@ -37,55 +37,6 @@ TEST_F(EveryForm, EachControlHasAWidgetOfItsKind) {
     }
 }
 
-// A day picker made of one drop-down list, as a user control is.
-class DayPicker : public UserControl {
-public:
-    DayPicker(Form& owner, std::string name) : UserControl(owner, std::move(name)) {}
-    std::optional<Json> Property(const std::string& name) const override {
-        if (name == "Picked")
-            return Json(picked);
-        return std::nullopt;
-    }
-    int picked = 0;
-};
-
-// A form with one control of each compound kind.
-class Sampler : public Form {
-public:
-    explicit Sampler(Application& app)
-        : Form(app, "frmSampler"), tabs(AddTyped<TabStrip>("SSTab1", 3)),
-          onSecond(tabs.Place(Add(ControlKind::CommandButton, "cmdSecond", &tabs), 1)),
-          list(AddTyped<ListView>("ListView1")), picker(AddTyped<DayPicker>("dtpDay")),
-          day(Add(ControlKind::ComboBox, "cboDay", &picker)),
-          popup(Add(ControlKind::Menu, "mnuPopUp")), show(Add(ControlKind::Menu, "mnuShow", &popup)),
-          sep(Add(ControlKind::Menu, "mnuSep", &popup)), quit(Add(ControlKind::Menu, "mnuExit", &popup)) {
-        for (int i = 0; i < 3; ++i)
-            tabs.SetTabCaption(i, "Tab &" + std::to_string(i));
-        tabs.TabClick = [this](int previous) { previousTabs.push_back(previous); };
-        list.SetColumns({"Goals"});
-        list.ItemClick = [this](int n) { clicked.push_back(n); };
-        list.ItemCheck = [this](int n) { checked.push_back(n); };
-        for (int d = 1; d <= 31; ++d)
-            day.AddItem(std::to_string(d));
-        day.Click = [this] { picker.picked = day.ListIndex() + 1; };
-        popup.SetCaption("PopUp");
-        popup.SetVisible(false);
-        show.SetCaption("Show");
-        sep.SetCaption("-");
-        quit.SetCaption("Exit");
-        show.Click = [this] { picks.push_back("show"); };
-        quit.Click = [this] { picks.push_back("exit"); };
-    }
-    TabStrip& tabs;
-    Control& onSecond;
-    ListView& list;
-    DayPicker& picker;
-    Control& day;
-    Control &popup, &show, &sep, &quit;
-    std::vector<int> previousTabs, clicked, checked;
-    std::vector<std::string> picks;
-};
-
 QWidget* BuildSampler(Form&) {
     auto* window = new QWidget;
     window->setObjectName("frmSampler");
@@ -108,12 +59,26 @@ QWidget* BuildSampler(Form&) {
     auto* combo = new QComboBox(picker);
     combo->setObjectName("cboDay");
     column->addWidget(picker);
+    auto* locked = new QLineEdit;
+    locked->setObjectName("txtLocked");
+    column->addWidget(locked);
+    auto* spot = new QStackedWidget;
+    for (int i = 0; i < 2; ++i) {
+        auto* view = new QPushButton;
+        view->setObjectName(QString("optGoals(%1)").arg(i));
+        view->setCheckable(true);
+        spot->addWidget(view);
+    }
+    column->addWidget(spot);
     return window;
 }
 
+using quillane::testing::Sampler;
+
 struct Adapters : ::testing::Test, quillane::testing::DesktopSession {
     Adapters() {
-        app->RegisterForm("frmSampler", [](Application& a) { return std::make_unique<Sampler>(a); });
+        app->RegisterForm("frmSampler",
+                          [](Application& a) { return std::make_unique<Sampler>(a); });
         host->RegisterWindow("frmSampler", BuildSampler);
         app->Dispatch([this] { app->Show("frmSampler"); });
         form = static_cast<Sampler*>(app->Find("frmSampler"));
@@ -179,6 +144,8 @@ TEST_F(Adapters, AUserControlsChildrenAreBoundInsideIt) {
     EXPECT_EQ(form->picker.picked, 5) << "a re-pick runs Click";
     app->Dispatch([&] { form->picker.SetEnabled(false); });
     EXPECT_FALSE(Widget<QWidget>("dtpDay")->isEnabled());
+    EXPECT_TRUE(Widget<QLineEdit>("txtLocked")->isReadOnly()) << "a locked box refuses typing";
+    EXPECT_TRUE(host->BinderOf("frmSampler")->Unbound().isEmpty());
 }
 
 TEST_F(Adapters, APopUpMenuOffersItsDefaultAndRunsThePick) {

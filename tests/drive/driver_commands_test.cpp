@@ -1,0 +1,119 @@
+// The driver's commands for tabs, list views, user controls, locked boxes,
+// controls on one spot, the tray and its pop-up menu, the form's own dump and
+// the start-at-logon entry, over a sample form.
+#include "DriveSession.h"
+#include "SamplerForm.h"
+#include "app/Composition.h"
+#include "drive/Driver.h"
+
+#include <gtest/gtest.h>
+
+using namespace quillane;
+
+namespace {
+
+struct DriverCommands : ::testing::Test {
+    explicit DriverCommands(
+        drive::ScriptedAutostart::Failure failure = drive::ScriptedAutostart::Failure::None)
+        : platform(Options(dir, failure)), program(platform.Wired()),
+          driver(program.App(), platform) {
+        program.App().RegisterForm("frmSampler", [](Application& a) {
+            return std::make_unique<quillane::testing::Sampler>(a);
+        });
+        Run("start");
+        program.App().Dispatch([this] { program.App().Show("frmSampler"); });
+    }
+    static drive::DriverOptions Options(const quillane::testing::ScratchDir& dir,
+                                        drive::ScriptedAutostart::Failure failure) {
+        drive::DriverOptions o;
+        o.programDir = o.userDir = dir.Str();
+        o.autostartFails = failure;
+        return o;
+    }
+    std::string Run(const std::string& line) { return driver.Execute(line).value_or("(none)"); }
+    quillane::testing::Sampler& Form() {
+        return static_cast<quillane::testing::Sampler&>(*program.App().Find("frmSampler"));
+    }
+
+    quillane::testing::ScratchDir dir;
+    drive::DrivePlatform platform;
+    app::Program program;
+    drive::Driver driver;
+};
+
+TEST_F(DriverCommands, TabsAnswerAndRefuseWhatTheUserCouldNotDo) {
+    EXPECT_EQ(Run("get frmSampler.SSTab1.Tab"), "0");
+    EXPECT_EQ(Run("get frmSampler.SSTab1.TabCaption(2)"), "\"Tab &2\"");
+    EXPECT_EQ(Run("click frmSampler.cmdSecond"), "error: hidden") << "its tab is not in front";
+    program.App().Dispatch([this] { Form().tabs.SetTabEnabled(2, false); });
+    EXPECT_EQ(Run("get frmSampler.SSTab1.TabEnabled(2)"), "false");
+    EXPECT_EQ(Run("set frmSampler.SSTab1.Tab 2"), "error: disabled");
+    EXPECT_EQ(Run("set frmSampler.SSTab1.Tab 1"), "ok");
+    EXPECT_EQ(Form().previousTabs, std::vector<int>{0});
+    EXPECT_EQ(Run("click frmSampler.cmdSecond"), "ok");
+}
+
+TEST_F(DriverCommands, ListItemsAreReadClickedAndTicked) {
+    program.App().Dispatch([this] {
+        Form().list.Add("_0", "Weekly reading");
+        Form().list.Add("_1", "Learn the Cups");
+        Form().list.SetSubItem(1, "0");
+    });
+    EXPECT_EQ(Run("set frmSampler.ListView1.ListItems(1).Checked true"), "error: hidden")
+        << "no check boxes in this view";
+    program.App().Dispatch([this] { Form().list.SetCheckboxes(true); });
+    EXPECT_EQ(Run("get frmSampler.ListView1.Checkboxes"), "true");
+    EXPECT_EQ(Run("set frmSampler.ListView1.ListItems(2).Checked true"), "ok");
+    EXPECT_EQ(Run("click frmSampler.ListView1.ListItems(1)"), "ok");
+    EXPECT_EQ(Run("click frmSampler.ListView1.ListItems(3)"), "error: bad value: ListItems(3)");
+    EXPECT_EQ(Run("get frmSampler.ListView1.ListItems"),
+              R"([{"Key":"_0","Text":"Weekly reading","SubItem":"0","Checked":false},)"
+              R"({"Key":"_1","Text":"Learn the Cups","SubItem":"","Checked":true}])");
+    EXPECT_EQ(Form().checked, std::vector<int>{2});
+    EXPECT_EQ(Form().clicked, std::vector<int>{1});
+}
+
+TEST_F(DriverCommands, ChildrenOfAUserControlAndItsOwnProperties) {
+    EXPECT_EQ(Run("set frmSampler.dtpDay.cboDay.ListIndex 4"), "ok");
+    EXPECT_EQ(Run("get frmSampler.dtpDay.Picked"), "5");
+    Form().picker.picked = 0;
+    EXPECT_EQ(Run("set frmSampler.dtpDay.cboDay.ListIndex 4"), "ok");
+    EXPECT_EQ(Run("get frmSampler.dtpDay.Picked"), "5") << "re-picking the shown item runs Click";
+    EXPECT_EQ(Run("set frmSampler.txtLocked.Text \"typed\""), "error: locked");
+    EXPECT_EQ(Run("get frmSampler.optGoals(0).InFront"), "false");
+    EXPECT_EQ(Run("get frmSampler.optGoals(1).InFront"), "true");
+    EXPECT_EQ(Run("click frmSampler.optGoals(0)"), "error: hidden");
+    const std::string dump = Run("dump frmSampler");
+    EXPECT_EQ(dump.rfind(R"({"Caption":"Sampler","Visible":true,"Loaded":true,)", 0), 0u) << dump;
+    EXPECT_NE(
+        dump.find(R"("frmSampler.dtpDay":{"Visible":true,"Enabled":true,"Tag":"","Picked":5})"),
+        std::string::npos)
+        << dump;
+}
+
+TEST_F(DriverCommands, TheTrayPopsUpItsMenuAndTakesOnePick) {
+    EXPECT_EQ(Run("tray"), R"({"icon":true,"tip":"Recent"})");
+    EXPECT_EQ(Run("traymenu mnuShow"), "error: no menu");
+    EXPECT_EQ(Run("trayevent 517"), R"({"menu":"mnuPopUp","default":"mnuShow"})");
+    EXPECT_EQ(Run("traymenu mnuExit"), "ok");
+    EXPECT_EQ(Run("traymenu mnuExit"), "error: no menu") << "the pick closed it";
+    EXPECT_EQ(Run("trayevent 515"), "null");
+    EXPECT_EQ(Run("trayevent 514"), "null");
+    EXPECT_EQ(Form().picks, (std::vector<std::string>{"exit", "show"}));
+}
+
+struct UnwritableAutostart : DriverCommands {
+    UnwritableAutostart() : DriverCommands(drive::ScriptedAutostart::Failure::Write) {}
+};
+
+TEST_F(UnwritableAutostart, TheEntryReportsItsFailureAndStaysAbsent) {
+    IAutostart& entry = *program.App().Svc().autostart;
+    EXPECT_FALSE(entry.Open()) << "the place opens";
+    const SystemError failed = entry.Write("quillane", "\"/opt/quillane\" /STARTUP");
+    EXPECT_EQ(failed.code, 5);
+    EXPECT_EQ(Run("autostart"), "null");
+    platform.entries.Write("quillane", "\"/opt/quillane\" /STARTUP");
+    EXPECT_EQ(Run("autostart"), R"("\"/opt/quillane\" /STARTUP")");
+}
+
+} // namespace
