@@ -185,4 +185,40 @@ struct Services {
     IScreen* screen;
 };
 
+// The services of a platform's bundle: each member named as a field of
+// Services serves as that service; the fields it has no member for keep
+// their null objects.
+template <class Platform> Services WireServices(Platform& platform) {
+    Services wired;
+    if constexpr (requires { platform.messageBox; })
+        wired.messageBox = &platform.messageBox;
+    if constexpr (requires { platform.browser; })
+        wired.browser = &platform.browser;
+    if constexpr (requires { platform.printer; })
+        wired.printer = &platform.printer;
+    if constexpr (requires { platform.saveDialog; })
+        wired.saveDialog = &platform.saveDialog;
+    if constexpr (requires { platform.clock; })
+        wired.clock = &platform.clock;
+    if constexpr (requires { platform.locale; })
+        wired.locale = &platform.locale;
+    if constexpr (requires { platform.settings; })
+        wired.settings = &platform.settings;
+    if constexpr (requires { platform.folder; })
+        wired.folder = &platform.folder;
+    if constexpr (requires { platform.instanceLock; })
+        wired.instanceLock = &platform.instanceLock;
+    if constexpr (requires { platform.tray; })
+        wired.tray = &platform.tray;
+    if constexpr (requires { platform.autostart; })
+        wired.autostart = &platform.autostart;
+    if constexpr (requires { platform.events; })
+        wired.events = &platform.events;
+    if constexpr (requires { platform.pictures; })
+        wired.pictures = &platform.pictures;
+    if constexpr (requires { platform.screen; })
+        wired.screen = &platform.screen;
+    return wired;
+}
+
 } // namespace quillane

@@ -20,20 +20,7 @@ DrivePlatform::DrivePlatform(const DriverOptions& o)
       autostart(entries, o.autostartFails) {}
 
 Services DrivePlatform::Wired() {
-    Services s;
-    s.messageBox = &messageBox;
-    s.browser = &browser;
-    s.printer = &printer;
-    s.saveDialog = &saveDialog;
-    s.clock = &clock;
-    s.locale = &locale;
-    s.settings = &settings;
-    s.folder = &folder;
-    s.instanceLock = &instanceLock;
-    s.tray = &tray;
-    s.autostart = &autostart;
-    s.pictures = &pictures;
-    return s;
+    return WireServices(*this);
 }
 
 } // namespace quillane::drive

@@ -33,6 +33,16 @@ QLabel* Text(const QString& path, const char* role) {
 
 using kit::ButtonRow;
 
+// A pair of options, indented below their prompt.
+void TwoChoices(QVBoxLayout* content, const char* name) {
+    auto* choices = new QVBoxLayout;
+    choices->setContentsMargins(24, 4, 0, 4);
+    choices->addWidget(kit::Option(kit::Path(name, 0)));
+    choices->addWidget(kit::Option(kit::Path(name, 1)));
+    content->addLayout(choices);
+    content->addStretch();
+}
+
 // The start panel: what the program offers and the choice of learning or testing.
 QWidget* StartPanel() {
     QVBoxLayout* c = nullptr;
@@ -42,12 +52,7 @@ QWidget* StartPanel() {
         c->addWidget(Text(QString("lblCaption(%1)").arg(i), "intro"));
     c->addSpacing(12);
     c->addWidget(Text("lblCaption(3)", "prompt"));
-    auto* choices = new QVBoxLayout;
-    choices->setContentsMargins(24, 4, 0, 4);
-    choices->addWidget(kit::Option("optMain(0)"));
-    choices->addWidget(kit::Option("optMain(1)"));
-    c->addLayout(choices);
-    c->addStretch();
+    TwoChoices(c, "optMain");
     c->addLayout(ButtonRow({}, {Primary("cmdNext")}));
     return panel;
 }
@@ -56,12 +61,7 @@ QWidget* OptionsPanel() {
     QVBoxLayout* c = nullptr;
     QWidget* panel = CaptionedPanel(1, c);
     c->addWidget(Text("lblCaption(4)", "prompt"));
-    auto* choices = new QVBoxLayout;
-    choices->setContentsMargins(24, 4, 0, 4);
-    choices->addWidget(kit::Option("optOption(0)"));
-    choices->addWidget(kit::Option("optOption(1)"));
-    c->addLayout(choices);
-    c->addStretch();
+    TwoChoices(c, "optOption");
     c->addLayout(ButtonRow({kit::Button("cmdBack2")}, {Primary("cmdNext2")}));
     return panel;
 }

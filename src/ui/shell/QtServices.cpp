@@ -164,22 +164,7 @@ DesktopPlatform::DesktopPlatform(const QString& programDir, const QString& exe,
       instanceLock(exe), autostart(XdgAutostart::DefaultFolder()) {}
 
 Services DesktopPlatform::Wired() {
-    Services s;
-    s.messageBox = &messageBox;
-    s.browser = &browser;
-    s.printer = &printer;
-    s.saveDialog = &saveDialog;
-    s.clock = &clock;
-    s.locale = &locale;
-    s.settings = &settings;
-    s.folder = &folder;
-    s.instanceLock = &instanceLock;
-    s.tray = &tray;
-    s.autostart = &autostart;
-    s.events = &events;
-    s.pictures = &pictures;
-    s.screen = &screen;
-    return s;
+    return WireServices(*this);
 }
 
 } // namespace quillane::ui
