@@ -66,7 +66,9 @@ std::string SystemLocale::MonthName(int month) {
 }
 
 void QtEventPump::DoEvents() {
-    QCoreApplication::processEvents();
+    // The window repaints; a click made meanwhile waits until the handler
+    // that pumps has finished, so it never lands in the middle of it.
+    QCoreApplication::processEvents(QEventLoop::ExcludeUserInputEvents);
 }
 
 bool ImageDecoder::CanDecode(const std::vector<unsigned char>& bytes) {

@@ -1,27 +1,186 @@
 #include "frmLearnTarotMain.h"
 
+#include "cards/modDB.h"
+#include "common/StateJson.h"
 #include "shell/modHelp.h"
 
 namespace quillane {
 
+namespace {
+
+// The captions of the five tabs, blanks and all.
+const char* const kTabCaptions[5] = {" My Personal Goal ", "     Settings       ",
+                                     "  Memorize Cards  ", "      Take Test     ",
+                                     "       Results        "};
+
+} // namespace
+
 frmLearnTarotMain::frmLearnTarotMain(Application& app)
     : SubjectWindow(app, "frmLearnTarotMain", "Quillane Learn Tarot Software"),
       mnuFile(Add(ControlKind::Menu, "mnuFile")),
+      mnuTabGoals(Add(ControlKind::Menu, "mnuTabGoals", &mnuFile)),
+      mnuTabSettings(Add(ControlKind::Menu, "mnuTabSettings", &mnuFile)),
+      mnuFileSep(Add(ControlKind::Menu, "mnuFileSep", &mnuFile)),
       mnuExit1(Add(ControlKind::Menu, "mnuExit1", &mnuFile)),
-      cmdNav(AddArray(ControlKind::CommandButton, "cmdNav", 1, 1)) {
+      cmdNav(AddArray(ControlKind::CommandButton, "cmdNav", 1, 1)),
+      SSTab1(AddTyped<TabStrip>("SSTab1", 5)),
+      // Tab 1
+      Frame4(SSTab1.Place(Add(ControlKind::Frame, "Frame4", &SSTab1), kSettingsTab)),
+      chkMajor(Add(ControlKind::CheckBox, "chkMajor", &Frame4)),
+      chkMinor(Add(ControlKind::CheckBox, "chkMinor", &Frame4)),
+      chkGroup(AddArray(ControlKind::CheckBox, "chkGroup", 0, 3, &Frame4)),
+      chkReversed(Add(ControlKind::CheckBox, "chkReversed", &Frame4)),
+      Frame1(SSTab1.Place(Add(ControlKind::Frame, "Frame1", &SSTab1), kSettingsTab)),
+      optDifficulty(AddArray(ControlKind::OptionButton, "optDifficulty", 0, 2, &Frame1)),
+      Frame2(SSTab1.Place(Add(ControlKind::Frame, "Frame2", &SSTab1), kSettingsTab)),
+      optTestType(AddArray(ControlKind::OptionButton, "optTestType", 0, 1, &Frame2)),
+      cmdSetOption(
+          SSTab1.Place(Add(ControlKind::CommandButton, "cmdSetOption", &SSTab1), kSettingsTab)),
+      cmdStartTest2(
+          SSTab1.Place(Add(ControlKind::CommandButton, "cmdStartTest2", &SSTab1), kSettingsTab)),
+      cmdSaveSettings(
+          SSTab1.Place(Add(ControlKind::CommandButton, "cmdSaveSettings", &SSTab1), kSettingsTab)),
+      Label18(SSTab1.Place(Add(ControlKind::Label, "Label18", &SSTab1), kSettingsTab)),
+      Label21(SSTab1.Place(Add(ControlKind::Label, "Label21", &SSTab1), kSettingsTab)),
+      Label19(SSTab1.Place(Add(ControlKind::Label, "Label19", &SSTab1), kSettingsTab)),
+      Label20(SSTab1.Place(Add(ControlKind::Label, "Label20", &SSTab1), kSettingsTab)),
+      fraSystemTray(SSTab1.Place(Add(ControlKind::Frame, "fraSystemTray", &SSTab1), kSettingsTab)),
+      optRun(Add(ControlKind::OptionButton, "optRun", &fraSystemTray)),
+      optDontRun(Add(ControlKind::OptionButton, "optDontRun", &fraSystemTray)),
+      chkSysTray(Add(ControlKind::CheckBox, "chkSysTray", &fraSystemTray)),
+      Label14(Add(ControlKind::Label, "Label14", &fraSystemTray)),
+      // Tab 2
+      lblCardNameMemorize(
+          SSTab1.Place(Add(ControlKind::Label, "lblCardNameMemorize", &SSTab1), kMemorizeTab)),
+      picCardMemorize(
+          SSTab1.Place(Add(ControlKind::PictureBox, "picCardMemorize", &SSTab1), kMemorizeTab)),
+      picCardMemorizeReversed(SSTab1.Place(
+          Add(ControlKind::PictureBox, "picCardMemorizeReversed", &SSTab1), kMemorizeTab)),
+      Label9(SSTab1.Place(Add(ControlKind::Label, "Label9", &SSTab1), kMemorizeTab)),
+      txtNormalMeaning(
+          SSTab1.Place(Add(ControlKind::TextBox, "txtNormalMeaning", &SSTab1), kMemorizeTab)),
+      Label17(SSTab1.Place(Add(ControlKind::Label, "Label17", &SSTab1), kMemorizeTab)),
+      txtReverseMeaning(
+          SSTab1.Place(Add(ControlKind::TextBox, "txtReverseMeaning", &SSTab1), kMemorizeTab)),
+      Label8(SSTab1.Place(Add(ControlKind::Label, "Label8", &SSTab1), kMemorizeTab)),
+      txtKeywords(SSTab1.Place(Add(ControlKind::TextBox, "txtKeywords", &SSTab1), kMemorizeTab)),
+      cmdPrevious(
+          SSTab1.Place(Add(ControlKind::CommandButton, "cmdPrevious", &SSTab1), kMemorizeTab)),
+      cmdNext(SSTab1.Place(Add(ControlKind::CommandButton, "cmdNext", &SSTab1), kMemorizeTab)),
+      cmdStartTest(
+          SSTab1.Place(Add(ControlKind::CommandButton, "cmdStartTest", &SSTab1), kMemorizeTab)),
+      // Tab 3
+      lblCardName(SSTab1.Place(Add(ControlKind::Label, "lblCardName", &SSTab1), kTestTab)),
+      picResult(SSTab1.Place(Add(ControlKind::PictureBox, "picResult", &SSTab1), kTestTab)),
+      lblIsReversed(SSTab1.Place(Add(ControlKind::Label, "lblIsReversed", &SSTab1), kTestTab)),
+      lblQCount(SSTab1.Place(Add(ControlKind::Label, "lblQCount", &SSTab1), kTestTab)),
+      llblQCount(SSTab1.Place(Add(ControlKind::Label, "llblQCount", &SSTab1), kTestTab)),
+      cmdNextQuestion(
+          SSTab1.Place(Add(ControlKind::CommandButton, "cmdNextQuestion", &SSTab1), kTestTab)),
+      picDescContainer(
+          SSTab1.Place(Add(ControlKind::PictureBox, "picDescContainer", &SSTab1), kTestTab)),
+      Shape1(AddArray(ControlKind::Frame, "Shape1", 0, 6, &picDescContainer)),
+      optAnswer(AddArray(ControlKind::OptionButton, "optAnswer", 0, 6, &picDescContainer)),
+      picKeywodContainer(
+          SSTab1.Place(Add(ControlKind::PictureBox, "picKeywodContainer", &SSTab1), kTestTab)),
+      chkKeywords(AddArray(ControlKind::CheckBox, "chkKeywords", 0, 19, &picKeywodContainer)),
+      lblMaxKeyword(Add(ControlKind::Label, "lblMaxKeyword", &picKeywodContainer)),
+      Text1(SSTab1.Place(Add(ControlKind::TextBox, "Text1", &SSTab1), kTestTab)),
+      // Tab 4
+      lblResultInfo(SSTab1.Place(Add(ControlKind::Label, "lblResultInfo", &SSTab1), kResultsTab)),
+      txtResult(SSTab1.Place(Add(ControlKind::TextBox, "txtResult", &SSTab1), kResultsTab)),
+      Command5(SSTab1.Place(Add(ControlKind::CommandButton, "Command5", &SSTab1), kResultsTab)) {
     mnuFile.SetCaption("&File");
+    mnuTabGoals.SetCaption("&My Personal Goals");
+    mnuTabSettings.SetCaption("Settings");
+    mnuFileSep.SetCaption("-");
     mnuExit1.SetCaption("&Exit");
     modHelp::AddHelpMenu(
         *this, {"mnuHelpSep1", "mnuHelpSep2", "mnuMakeMoney", "Check for Software &Update"});
     modHelp::AddSubjectLinks(*this, "Label6");
     cmdNav(1).SetCaption("Exit");
     Me().Move(0, 0, 11520, 8640);
+    for (int tab = 0; tab < 5; ++tab)
+        SSTab1.SetTabCaption(tab, kTabCaptions[tab]);
+
+    BuildSettingsTab();
+    BuildMemorizeTab();
+    BuildTestTab();
+
+    lblResultInfo.SetCaption("Label7");
+    Command5.SetCaption("Save Current Result");
+    Command5.Click = [this] { Command5_Click(); };
+    SSTab1.TabClick = [this](int previous) { SSTab1_Click(previous); };
+    mnuTabGoals.Click = [this] { SSTab1.SetTab(kGoalsTab); };
+    mnuTabSettings.Click = [this] { SSTab1.SetTab(kSettingsTab); };
     mnuExit1.Click = [this] { CloseWindow(); };
     cmdNav.OnClick([this](int) { CloseWindow(); });
 }
 
 void frmLearnTarotMain::Form_Load() {
     modHelp::CheckForUpdateReminder(App());
+    SSTab1.SetTab(kSettingsTab);
+    Text1.SetVisible(false);
+    // The personal goals are loaded here.
+    LoadTarotSettings();
+    // The start-up choice is set here.
+    for (int tab : {kMemorizeTab, kTestTab, kResultsTab})
+        SSTab1.SetTabEnabled(tab, false);
+    // The tray test comes here.
+}
+
+void frmLearnTarotMain::SSTab1_Click(int PreviousTab) {
+    (void)PreviousTab;
+    switch (SSTab1.Tab()) {
+    case kSettingsTab:
+        for (int tab : {kMemorizeTab, kTestTab, kResultsTab})
+            SSTab1.SetTabEnabled(tab, false);
+        break;
+    case kMemorizeTab: {
+        auto& cards = *modDB::rsCards;
+        lngCardCount = std::int32_t(cards.RecordCount());
+        cards.MoveFirst();
+        lngCardPosition = 1;
+        ShowCard();
+        SSTab1.SetTabEnabled(kTestTab, false);
+        SSTab1.SetTabEnabled(kResultsTab, false);
+        break;
+    }
+    case kTestTab:
+        SSTab1.SetTabEnabled(kResultsTab, false);
+        break;
+    case kResultsTab:
+        SSTab1.SetTabEnabled(kTestTab, false);
+        break;
+    default: // the goals: whatever runs is left as it stands
+        break;
+    }
+}
+
+int frmLearnTarotMain::Level() const {
+    if (optDifficulty(0).Selected())
+        return 0;
+    return optDifficulty(1).Selected() ? 1 : 2;
+}
+
+Json frmLearnTarotMain::Variables() const {
+    return Json::Object{
+        {"lngCardPosition", Json(lngCardPosition)},
+        {"lngCardCount", Json(lngCardCount)},
+        {"lngQuestionCounter", Json(lngQuestionCounter)},
+        {"blnFirstQuestion", Json(blnFirstQuestion != 0)},
+        {"lngCurrentCardID", Json(lngCurrentCardID)},
+        {"blnIsReversed", Json(blnIsReversed != 0)},
+        {"lngFirstOption", Json(lngFirstOption)},
+        {"lngLastOption", Json(lngLastOption)},
+        {"lngLastKeywordBox", Json(lngLastKeywordBox)},
+        {"lngKeywordsToChoose", Json(lngKeywordsToChoose)},
+        {"lngKeywordPositions", ListJson(lngKeywordPositions)},
+        {"lngUsedCards", ListJson(lngUsedCards)},
+        {"lngScores", ListJson(lngScores)},
+        {"blnReversedFlags", FlagsJson(blnReversedFlags)},
+        {"lngCorrectCount", Json(lngCorrectCount)},
+    };
 }
 
 } // namespace quillane

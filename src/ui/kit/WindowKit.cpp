@@ -5,6 +5,7 @@
 #include <QFrame>
 #include <QStyleOptionButton>
 #include <QStylePainter>
+#include <type_traits>
 
 namespace quillane::ui::kit {
 
@@ -139,45 +140,59 @@ void BareOption::paintEvent(QPaintEvent*) {
     painter.drawPrimitive(QStyle::PE_IndicatorRadioButton, option);
 }
 
-WrapCheck::WrapCheck(const QString& path) {
-    setObjectName(path);
+namespace {
+template <class Button> constexpr bool kIsCheck = std::is_same_v<Button, QCheckBox>;
+} // namespace
+
+template <class Button> Wrapping<Button>::Wrapping(const QString& path) {
+    this->setObjectName(path);
     QSizePolicy policy(QSizePolicy::Preferred, QSizePolicy::Preferred);
     policy.setHeightForWidth(true);
-    setSizePolicy(policy);
+    this->setSizePolicy(policy);
 }
 
-QSize WrapCheck::Indicator() const {
-    return {style()->pixelMetric(QStyle::PM_IndicatorWidth, nullptr, this),
-            style()->pixelMetric(QStyle::PM_IndicatorHeight, nullptr, this)};
+template <class Button> QSize Wrapping<Button>::Indicator() const {
+    QStyle* style = this->style();
+    if constexpr (kIsCheck<Button>)
+        return {style->pixelMetric(QStyle::PM_IndicatorWidth, nullptr, this),
+                style->pixelMetric(QStyle::PM_IndicatorHeight, nullptr, this)};
+    else
+        return {style->pixelMetric(QStyle::PM_ExclusiveIndicatorWidth, nullptr, this),
+                style->pixelMetric(QStyle::PM_ExclusiveIndicatorHeight, nullptr, this)};
 }
 
-int WrapCheck::TextLeft() const {
-    return Indicator().width() +
-           style()->pixelMetric(QStyle::PM_CheckBoxLabelSpacing, nullptr, this) + 2;
+template <class Button> int Wrapping<Button>::TextLeft() const {
+    const auto spacing =
+        kIsCheck<Button> ? QStyle::PM_CheckBoxLabelSpacing : QStyle::PM_RadioButtonLabelSpacing;
+    return Indicator().width() + this->style()->pixelMetric(spacing, nullptr, this) + 2;
 }
 
-int WrapCheck::heightForWidth(int width) const {
-    const QRect text = fontMetrics().boundingRect(QRect(0, 0, TextWidth(width), 100000),
-                                                  Qt::TextWordWrap, this->text());
+template <class Button> int Wrapping<Button>::heightForWidth(int width) const {
+    const QRect text = this->fontMetrics().boundingRect(QRect(0, 0, TextWidth(width), 100000),
+                                                        Qt::TextWordWrap, this->text());
     return std::max(text.height(), Indicator().height()) + 4;
 }
 
-void WrapCheck::paintEvent(QPaintEvent*) {
+template <class Button> void Wrapping<Button>::paintEvent(QPaintEvent*) {
     QStylePainter painter(this);
     QStyleOptionButton option;
-    initStyleOption(&option);
+    this->initStyleOption(&option);
     option.rect = QRect(QPoint(0, 2), Indicator());
-    painter.drawPrimitive(QStyle::PE_IndicatorCheckBox, option);
-    painter.setPen(
-        palette().color(isEnabled() ? QPalette::Active : QPalette::Disabled, QPalette::WindowText));
-    painter.drawText(QRect(TextLeft(), 2, TextWidth(width()), height() - 2),
-                     Qt::TextWordWrap | Qt::AlignLeft | Qt::AlignTop, text());
-    if (hasFocus()) {
+    painter.drawPrimitive(
+        kIsCheck<Button> ? QStyle::PE_IndicatorCheckBox : QStyle::PE_IndicatorRadioButton, option);
+    painter.setPen(this->palette().color(this->isEnabled() ? QPalette::Active : QPalette::Disabled,
+                                         QPalette::WindowText));
+    painter.drawText(QRect(TextLeft(), 2, TextWidth(this->width()), this->height() - 2),
+                     Qt::TextWordWrap | Qt::AlignLeft | Qt::AlignTop, this->text());
+    if (this->hasFocus()) {
         QStyleOptionFocusRect focus;
         focus.initFrom(this);
         painter.drawPrimitive(QStyle::PE_FrameFocusRect, focus);
     }
 }
+
+template class Wrapping<QCheckBox>;
+template class Wrapping<QRadioButton>;
 
 QWidget* SubjectShell(Form& form, QWidget* body, const char* subject, const char* forumLabel) {
     auto* window = new QWidget;

@@ -82,11 +82,11 @@ protected:
     bool hitButton(const QPoint&) const override { return true; }
 };
 
-// A check box whose caption is a paragraph: the text wraps under itself
-// beside the box, and the whole area takes the click.
-class WrapCheck : public QCheckBox {
+// A check box or option whose caption is a paragraph: the text wraps under
+// itself beside the indicator, and the whole area takes the click.
+template <class Button> class Wrapping : public Button {
 public:
-    explicit WrapCheck(const QString& path);
+    explicit Wrapping(const QString& path);
     bool hasHeightForWidth() const override { return true; }
     int heightForWidth(int width) const override;
     QSize sizeHint() const override { return {420, heightForWidth(420)}; }
@@ -94,13 +94,15 @@ public:
 
 protected:
     void paintEvent(QPaintEvent*) override;
-    bool hitButton(const QPoint& pos) const override { return rect().contains(pos); }
+    bool hitButton(const QPoint& pos) const override { return this->rect().contains(pos); }
 
 private:
     QSize Indicator() const;
     int TextLeft() const;
     int TextWidth(int width) const { return std::max(40, width - TextLeft()); }
 };
+using WrapCheck = Wrapping<QCheckBox>;
+using WrapOption = Wrapping<QRadioButton>;
 
 // A subject window: its body in the subject's accent, and below it the links
 // every subject carries (the forum's label is named by each subject) and the

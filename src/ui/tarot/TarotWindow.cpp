@@ -1,15 +1,199 @@
-// The Tarot window.
+// The Tarot window: five tabs, the links below them and the exit button.
 #include "TarotWindows.h"
 #include "ui/kit/WindowKit.h"
+
+#include <QFontDatabase>
+#include <QGridLayout>
+#include <QScrollArea>
+#include <QTabWidget>
 
 namespace quillane::ui {
 
 namespace {
 
+using namespace kit;
+
+// The size of a card's picture on the screen: the deck's proportions.
+constexpr QSize kCardSize(132, 228);
+
+QWidget* Page(QVBoxLayout*& column) {
+    auto* page = new QWidget;
+    column = new QVBoxLayout(page);
+    column->setContentsMargins(14, 12, 14, 10);
+    column->setSpacing(8);
+    return page;
+}
+
+QWidget* GoalsPage() {
+    QVBoxLayout* column = nullptr;
+    return Page(column);
+}
+
+QWidget* SettingsPage() {
+    QVBoxLayout* column = nullptr;
+    QWidget* page = Page(column);
+    auto* row = new QHBoxLayout;
+    row->setSpacing(14);
+
+    auto* cards = new QVBoxLayout;
+    auto* objectives = Frame("Frame4");
+    auto* ticks = new QGridLayout(objectives);
+    ticks->addWidget(Check("chkMajor"), 0, 0, 1, 2);
+    ticks->addWidget(Check("chkMinor"), 1, 0, 1, 2);
+    for (int i = 0; i <= 3; ++i)
+        ticks->addWidget(Check(Path("chkGroup", i)), 2 + i, 1);
+    ticks->setColumnMinimumWidth(0, 18);
+    ticks->addWidget(Check("chkReversed"), 6, 0, 1, 2);
+    cards->addWidget(objectives);
+    cards->addWidget(Label("Label18", "hint"));
+    cards->addWidget(Label("Label21", "hint"));
+    cards->addStretch();
+    row->addLayout(cards, 1);
+
+    auto* test = new QVBoxLayout;
+    auto* level = Frame("Frame1");
+    auto* levels = new QVBoxLayout(level);
+    for (int i = 0; i <= 2; ++i)
+        levels->addWidget(Option(Path("optDifficulty", i)));
+    levels->addWidget(Label("Label19", "hint"));
+    test->addWidget(level);
+    auto* type = Frame("Frame2");
+    auto* types = new QVBoxLayout(type);
+    for (int i = 0; i <= 1; ++i)
+        types->addWidget(Option(Path("optTestType", i)));
+    types->addWidget(Label("Label20", "hint"));
+    test->addWidget(type);
+    test->addStretch();
+    row->addLayout(test, 1);
+
+    auto* startUp = Frame("fraSystemTray");
+    auto* choices = new QVBoxLayout(startUp);
+    choices->addWidget(Option("optRun"));
+    choices->addWidget(Option("optDontRun"));
+    choices->addWidget(Check("chkSysTray"));
+    choices->addWidget(Label("Label14", "hint"));
+    choices->addStretch();
+    row->addWidget(startUp, 1);
+
+    column->addLayout(row, 1);
+    column->addLayout(ButtonRow({Button("cmdSaveSettings")},
+                                {Button("cmdSetOption"), Button("cmdStartTest2", true)}));
+    return page;
+}
+
+QWidget* MemorizePage() {
+    QVBoxLayout* column = nullptr;
+    QWidget* page = Page(column);
+    column->addWidget(Label("lblCardNameMemorize", "heading"));
+    auto* row = new QHBoxLayout;
+    row->setSpacing(14);
+    row->addWidget(Picture("picCardMemorize", kCardSize, "stone"), 0, Qt::AlignTop);
+    row->addWidget(Picture("picCardMemorizeReversed", kCardSize, "stone"), 0, Qt::AlignTop);
+    auto* texts = new QGridLayout;
+    texts->setVerticalSpacing(4);
+    texts->addWidget(Label("Label9", "caption"), 0, 0);
+    texts->addWidget(TextBox("txtNormalMeaning", true), 1, 0);
+    texts->addWidget(Label("Label17", "caption"), 0, 1);
+    texts->addWidget(TextBox("txtReverseMeaning", true), 1, 1);
+    texts->addWidget(Label("Label8", "caption"), 2, 0, 1, 2);
+    auto* keywords = TextBox("txtKeywords", true);
+    keywords->setFixedHeight(52);
+    texts->addWidget(keywords, 3, 0, 1, 2);
+    row->addLayout(texts, 1);
+    column->addLayout(row, 1);
+    column->addLayout(
+        ButtonRow({Button("cmdPrevious"), Button("cmdNext")}, {Button("cmdStartTest", true)}));
+    return page;
+}
+
+// The meanings to choose from: long paragraphs, each in its frame, scrolling.
+QWidget* DescriptionChoices() {
+    auto* container = Panel("picDescContainer");
+    auto* outer = new QVBoxLayout(container);
+    outer->setContentsMargins(0, 0, 0, 0);
+    auto* list = new QWidget;
+    auto* choices = new QVBoxLayout(list);
+    choices->setContentsMargins(0, 0, 6, 0);
+    for (int i = 0; i <= 6; ++i) {
+        auto* shape = Role(new QFrame, "choice");
+        shape->setObjectName(Path("Shape1", i));
+        auto* inside = new QVBoxLayout(shape);
+        inside->setContentsMargins(8, 5, 8, 5);
+        inside->addWidget(new WrapOption(Path("optAnswer", i)));
+        choices->addWidget(shape);
+    }
+    choices->addStretch();
+    auto* scroll = new QScrollArea;
+    scroll->setWidgetResizable(true);
+    scroll->setFrameShape(QFrame::NoFrame);
+    scroll->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+    scroll->setWidget(list);
+    outer->addWidget(scroll);
+    return container;
+}
+
+// Up to twenty keywords in four columns of five.
+QWidget* KeywordChoices() {
+    auto* container = Panel("picKeywodContainer");
+    auto* column = new QVBoxLayout(container);
+    column->setContentsMargins(0, 0, 0, 0);
+    column->addWidget(Label("lblMaxKeyword", "prompt"));
+    auto* grid = new QGridLayout;
+    grid->setHorizontalSpacing(18);
+    grid->setVerticalSpacing(10);
+    for (int i = 0; i <= 19; ++i)
+        grid->addWidget(Check(Path("chkKeywords", i)), i % 5, i / 5);
+    column->addLayout(grid);
+    column->addStretch();
+    return container;
+}
+
+QWidget* TestPage() {
+    QVBoxLayout* column = nullptr;
+    QWidget* page = Page(column);
+    auto* row = new QHBoxLayout;
+    row->setSpacing(16);
+    auto* card = new QVBoxLayout;
+    card->addWidget(Label("lblCardName", "caption"));
+    card->addWidget(Picture("picResult", kCardSize, "stone"), 0, Qt::AlignHCenter);
+    card->addWidget(Label("lblIsReversed", "prompt"));
+    card->addStretch();
+    auto* log = TextBox("Text1", true);
+    log->hide();
+    card->addWidget(log);
+    row->addLayout(card);
+    row->addWidget(Stack({DescriptionChoices(), KeywordChoices()}), 1);
+    column->addLayout(row, 1);
+    column->addLayout(
+        ButtonRow({Label("lblQCount", "caption", false), Label("llblQCount", nullptr, false)},
+                  {Button("cmdNextQuestion", true)}));
+    return page;
+}
+
+QWidget* ResultsPage() {
+    QVBoxLayout* column = nullptr;
+    QWidget* page = Page(column);
+    column->addWidget(Label("lblResultInfo", "caption"));
+    auto* report = TextBox("txtResult");
+    // The report's columns line up only in a fixed-pitch font.
+    report->setFont(QFontDatabase::systemFont(QFontDatabase::FixedFont));
+    report->setLineWrapMode(QPlainTextEdit::NoWrap);
+    column->addWidget(report, 1);
+    column->addLayout(ButtonRow({}, {Button("Command5", true)}));
+    return page;
+}
+
 QWidget* BuildTarotWindow(Form& form) {
     auto* body = new QWidget;
-    body->setMinimumSize(760, 480);
-    return kit::SubjectShell(form, body, "tarot", "Label6");
+    body->setObjectName("tarotBody");
+    auto* column = new QVBoxLayout(body);
+    column->setContentsMargins(0, 0, 0, 0);
+    auto* tabs = Named(new QTabWidget, "SSTab1");
+    for (QWidget* page : {GoalsPage(), SettingsPage(), MemorizePage(), TestPage(), ResultsPage()})
+        tabs->addTab(page, QString());
+    column->addWidget(tabs);
+    body->setMinimumSize(940, 470);
+    return SubjectShell(form, body, "tarot", "Label6");
 }
 
 } // namespace

@@ -1,0 +1,301 @@
+// The Tarot window through the driver: the selection rules against the cards
+// they select, the walk, whole tests at every level checked line by line
+// against the answers given, the report's summaries, and saving.
+#include "DriveSession.h"
+#include "app/Composition.h"
+#include "cards/modDB.h"
+#include "common/Numbers.h"
+#include "drive/Driver.h"
+#include "tarot/frmLearnTarotMain.h"
+
+#include <gtest/gtest.h>
+
+#include <filesystem>
+#include <fstream>
+#include <iterator>
+#include <set>
+
+using namespace quillane;
+
+namespace {
+
+constexpr const char* kForm = "frmLearnTarotMain";
+
+class Tarot : public ::testing::Test {
+protected:
+    explicit Tarot(bool withDeck = true) {
+        if (withDeck)
+            std::filesystem::copy_file(QUILLANE_LEARN_DLL, dir.Path() / "learn.dll");
+        Do("start");
+        Do("click frmMDI.cmdSelectOption(2)");
+    }
+    static drive::DriverOptions Options(const quillane::testing::ScratchDir& dir) {
+        drive::DriverOptions o;
+        o.programDir = o.userDir = dir.Str();
+        o.seed = 11;
+        o.today = Date(2026, 11, 23);
+        return o;
+    }
+    // Runs one command on the window; "ok" is expected of actions.
+    std::string Run(const std::string& command) {
+        return driver.Execute(command).value_or("(none)");
+    }
+    void Do(const std::string& command) { ASSERT_EQ(Run(command), "ok") << command; }
+    void Click(const std::string& control) { Do("click " + std::string(kForm) + "." + control); }
+    Json Get(const std::string& what) {
+        const std::string answer = Run("get " + std::string(kForm) + "." + what);
+        auto value = Json::Parse(answer);
+        EXPECT_TRUE(value) << what << ": " << answer;
+        return value ? *value : Json();
+    }
+    std::string Text(const std::string& what) { return Get(what).AsString(); }
+    long Number(const std::string& what) { return long(Get(what).AsInt()); }
+    long Cards() { return long(modDB::rsCards->RecordCount()); }
+    // Unticks the named settings until only what is wanted is left.
+    void Untick(std::initializer_list<const char*> boxes) {
+        for (const char* box : boxes)
+            Do("set " + std::string(kForm) + "." + box + ".Value 0");
+    }
+
+    quillane::testing::ScratchDir dir;
+    drive::DrivePlatform platform{Options(dir)};
+    app::Program program{platform.Wired()};
+    drive::Driver driver{program.App(), platform};
+};
+
+TEST_F(Tarot, TheSelectionRulesChooseTheirCards) {
+    EXPECT_EQ(Number("SSTab1.Tab"), 1);
+    EXPECT_EQ(Text("SSTab1.TabCaption(4)"), "       Results        ");
+    Click("cmdSetOption");
+    EXPECT_EQ(Cards(), 78) << "a first start ticks every group";
+    EXPECT_EQ(Number("lngCardCount"), 78);
+
+    Click("mnuTabSettings");
+    EXPECT_FALSE(Get("SSTab1.TabEnabled(2)").AsBool()) << "entering the settings ends the walk";
+    Untick({"chkMinor"});
+    EXPECT_FALSE(Get("chkGroup(0).Enabled").AsBool());
+    EXPECT_EQ(Number("chkGroup(0).Value"), 1) << "the groups keep their ticks";
+    Click("cmdSetOption");
+    EXPECT_EQ(Cards(), 22) << "groups drop out while the minor arcana are off";
+
+    Click("mnuTabSettings");
+    Do("set frmLearnTarotMain.chkMinor.Value 1");
+    Untick({"chkMajor", "chkGroup(1)", "chkGroup(2)", "chkGroup(3)", "chkGroup(0)"});
+    EXPECT_EQ(Number("chkGroup(0).Value"), 1) << "the last group can't be unticked";
+    Click("cmdSetOption");
+    EXPECT_EQ(Cards(), 14);
+
+    Click("mnuTabSettings");
+    Do("set frmLearnTarotMain.chkMajor.Value 1");
+    Do("set frmLearnTarotMain.chkGroup(0).Value 1");
+    Untick({"chkGroup(1)"});
+    EXPECT_EQ(static_cast<frmLearnTarotMain*>(program.App().Find(kForm))->BuildCardQuery(),
+              "SELECT * FROM tblCards WHERE (Group=0) OR (Group=1) ORDER BY ID");
+    Untick({"chkMajor", "chkMinor"});
+    EXPECT_FALSE(Get("cmdNext.Enabled").AsBool());
+    EXPECT_FALSE(Get("chkReversed.Enabled").AsBool());
+    Click("cmdStartTest2");
+    EXPECT_EQ(
+        Run("msgbox"),
+        R"({"text":"Select at least one option.","title":"Quillane","icon":"none","buttons":"ok","answer":"ok"})");
+    EXPECT_EQ(Number("SSTab1.Tab"), 1);
+}
+
+TEST_F(Tarot, TheWalkStopsOnePressPastEachEndAndRemembersIt) {
+    Untick({"chkMinor"});
+    Click("cmdSetOption");
+    EXPECT_EQ(Text("picCardMemorizeReversed.Picture"), Text("picCardMemorize.Picture") + " rot180");
+    const std::string keywords = Text("txtKeywords.Text");
+    EXPECT_EQ(keywords.substr(keywords.size() - 2), ", ");
+    EXPECT_EQ(std::count(keywords.begin(), keywords.end(), ','), 7);
+    for (int i = 1; i < 22; ++i)
+        Click("cmdNext");
+    EXPECT_EQ(Text("lblCardNameMemorize.Caption"), "The World");
+    EXPECT_TRUE(Get("cmdNext.Enabled").AsBool()) << "the last card is reached, not yet passed";
+    Click("cmdNext");
+    EXPECT_FALSE(Get("cmdNext.Enabled").AsBool());
+    EXPECT_EQ(Text("lblCardNameMemorize.Caption"), "The World");
+
+    Click("mnuTabGoals");
+    Do("set frmLearnTarotMain.SSTab1.Tab 2");
+    EXPECT_EQ(Text("lblCardNameMemorize.Caption"), "The Fool") << "each entry starts afresh";
+    EXPECT_FALSE(Get("cmdNext.Enabled").AsBool()) << "but keeps the disabled button";
+    Click("cmdPrevious");
+    EXPECT_FALSE(Get("cmdPrevious.Enabled").AsBool());
+    EXPECT_TRUE(Get("cmdNext.Enabled").AsBool());
+}
+
+// A whole test of the major arcana at one level, its report checked against
+// the answers given: question n is answered right when n is odd
+// (description), or with n mod (number to tick + 1) right keywords.
+struct WholeTest : Tarot, ::testing::WithParamInterface<std::tuple<int, bool>> {};
+
+TEST_P(WholeTest, TheReportListsEveryAnswerAsGiven) {
+    const auto [level, description] = GetParam();
+    Untick({"chkMinor"});
+    Do("set frmLearnTarotMain.optDifficulty(" + std::to_string(level) + ").Value true");
+    Do("set frmLearnTarotMain.optTestType(" + std::string(description ? "0" : "1") +
+       ").Value true");
+    if (description)
+        Do("set frmLearnTarotMain.chkReversed.Value 1");
+    Click("cmdStartTest2");
+    std::set<std::string> normal, reversed;
+    for (long row = 1; row <= 22; ++row) {
+        modDB::rsCards->MoveFirst();
+        modDB::rsCards->Move(row - 1);
+        normal.insert(modDB::rsCards->Field("normalmeaning").AsString());
+        reversed.insert(modDB::rsCards->Field("reversedmeaning").AsString());
+    }
+    const int offered = description ? 3 + 2 * level : 7 + (level == 0 ? 0 : level == 1 ? 5 : 13);
+    const int toTick = 3 + 2 * level;
+    std::vector<std::string> names;
+    std::vector<long> expected;
+    long reversedSeen = 0;
+    for (int q = 1; q <= 22; ++q) {
+        ASSERT_EQ(Text("lblQCount.Caption"), std::to_string(q) + " of 22");
+        names.push_back(Text("lblCardName.Caption"));
+        if (description) {
+            const bool turned = Text("lblIsReversed.Caption") == "Reversed";
+            reversedSeen += turned;
+            const int first = 3 - (offered - 1) / 2;
+            int right = -1, wrong = -1;
+            for (int i = 0; i <= 6; ++i) {
+                const bool inUse = i >= first && i < first + offered;
+                ASSERT_EQ(Get("optAnswer(" + std::to_string(i) + ").Visible").AsBool(), inUse);
+                if (!inUse)
+                    continue;
+                EXPECT_TRUE((turned ? reversed : normal)
+                                .count(Text("optAnswer(" + std::to_string(i) + ").Caption")))
+                    << "a reversed card is offered reversed meanings only";
+                (Text("optAnswer(" + std::to_string(i) + ").Tag") == "True" ? right : wrong) = i;
+            }
+            const bool answerRight = q % 2 == 1;
+            Click("optAnswer(" + std::to_string(answerRight ? right : wrong) + ")");
+            expected.push_back(answerRight);
+        } else {
+            EXPECT_EQ(Text("lblMaxKeyword.Caption"),
+                      "You must choose " + std::to_string(toTick) + " keywords");
+            if (offered < 20) {
+                EXPECT_FALSE(Get("chkKeywords(" + std::to_string(offered) + ").Visible").AsBool());
+            }
+            std::set<int> positions;
+            const Json drawn = Get("lngKeywordPositions");
+            for (const Json& p : drawn.AsArray())
+                positions.insert(int(p.AsInt()));
+            const int rightTicks = q % (toTick + 1);
+            int ticked = 0;
+            for (int p : positions)
+                if (ticked < rightTicks && ++ticked)
+                    Click("chkKeywords(" + std::to_string(p) + ")");
+            for (int i = 0; i < offered && ticked < toTick; ++i)
+                if (!positions.count(i) && ++ticked)
+                    Click("chkKeywords(" + std::to_string(i) + ")");
+            expected.push_back(rightTicks);
+        }
+        EXPECT_EQ(Run("focus frmLearnTarotMain"), "\"cmdNextQuestion\"");
+        Click("cmdNextQuestion");
+    }
+    EXPECT_EQ(
+        Run("msgbox"),
+        R"({"text":"Test Complete","title":"Quillane","icon":"information","buttons":"ok","answer":"ok"})");
+    EXPECT_EQ(Number("SSTab1.Tab"), 4);
+    if (description) {
+        EXPECT_GT(reversedSeen, 0);
+        EXPECT_LT(reversedSeen, 22);
+    }
+    // The report, line by line.
+    std::vector<std::string> lines;
+    std::string report = Text("txtResult.Text");
+    for (std::size_t at = 0; at <= report.size();) {
+        const std::size_t end = std::min(report.find("\r\n", at), report.size());
+        lines.push_back(report.substr(at, end - at));
+        at = end + 2;
+    }
+    ASSERT_EQ(lines.size(), 22u + 5);
+    EXPECT_EQ(lines[0], "Test Report For Quillane");
+    EXPECT_EQ(lines[1], std::string(24, '-'));
+    EXPECT_EQ(lines[2], "");
+    const Json flags = Get("blnReversedFlags");
+    long correct = 0;
+    for (std::size_t i = 0; i < 22; ++i) {
+        const std::string& line = lines[3 + i];
+        const bool turned = flags.AsArray()[i].AsBool();
+        std::string expectedLine =
+            Format00(long(i) + 1) + ".      " + names[i] + (turned ? " (Reversed)" : "");
+        expectedLine += std::string(std::size_t((turned ? 25 : 36) - long(names[i].size())), ' ');
+        if (description)
+            expectedLine += expected[i] ? "Correct" : "Wrong";
+        else
+            expectedLine +=
+                std::to_string(expected[i]) + " Out Of " + std::to_string(toTick) + " Correct";
+        EXPECT_EQ(line, expectedLine);
+        correct += description ? expected[i] : expected[i] + (expected[i] == 1);
+    }
+    EXPECT_EQ(lines[25], std::string(64, '_'));
+    const std::string summary = description
+                                    ? std::to_string(correct) + " out of 22 questions correct"
+                                    : std::to_string(correct) + "/" + std::to_string(22 * toTick) +
+                                          " choice(s) from 22 questions were correct";
+    EXPECT_EQ(lines[26], summary) << "a keyword question with one right counts twice";
+    EXPECT_EQ(Text("lblResultInfo.Caption"), summary);
+    EXPECT_EQ(Number("txtResult.SelStart"), long(report.size()));
+}
+
+INSTANTIATE_TEST_SUITE_P(EveryLevelAndType, WholeTest,
+                         ::testing::Combine(::testing::Values(0, 1, 2), ::testing::Bool()));
+
+TEST_F(Tarot, ATickTooManyIsTakenBackAndSaysHowMany) {
+    Untick({"chkMinor"});
+    Click("cmdStartTest2");
+    for (int i = 0; i < 3; ++i)
+        Click("chkKeywords(" + std::to_string(i) + ")");
+    EXPECT_TRUE(Get("cmdNextQuestion.Enabled").AsBool());
+    Click("chkKeywords(3)");
+    EXPECT_EQ(Number("chkKeywords(3).Value"), 0);
+    EXPECT_EQ(
+        Json::Parse(Run("msgbox"))->Find("text")->AsString(),
+        "You can select only 3 keywords.\r\nPlease unselect one before selecting another keyword");
+    Click("chkKeywords(0)");
+    EXPECT_FALSE(Get("cmdNextQuestion.Enabled").AsBool()) << "two ticks are not an answer";
+}
+
+TEST_F(Tarot, SavingWritesTheReportAndALineEndOrNothing) {
+    Untick({"chkMinor"});
+    Click("cmdStartTest2");
+    for (int q = 0; q < 22; ++q) {
+        for (int i = 0; i < 3; ++i)
+            Click("chkKeywords(" + std::to_string(i) + ")");
+        Click("cmdNextQuestion");
+    }
+    EXPECT_NE(Run("msgbox"), "null") << "the test is over";
+    const std::string report = Text("txtResult.Text");
+    const auto saved = dir.Path() / "report.txt";
+    Do("savefile \"\"");
+    Click("Command5");
+    EXPECT_FALSE(std::filesystem::exists(saved)) << "a cancelled dialog writes nothing";
+    Do("savefile " + Json(saved.string()).Dump());
+    Click("Command5");
+    std::ifstream in(saved, std::ios::binary);
+    EXPECT_EQ(std::string(std::istreambuf_iterator<char>(in), {}), report + "\r\n");
+    Do("savefile " + Json((dir.Path() / "no such folder" / "report.txt").string()).Dump());
+    EXPECT_EQ(Run("click frmLearnTarotMain.Command5"), "ok");
+    EXPECT_EQ(Run("msgbox"), "null") << "a failed save says nothing";
+}
+
+struct NoDeck : Tarot {
+    NoDeck() : Tarot(false) {}
+};
+
+TEST_F(NoDeck, OnlyOpeningASelectionMeetsTheMissingDatabase) {
+    Click("mnuTabGoals");
+    Click("mnuTabSettings");
+    EXPECT_EQ(Run("msgbox"), "null");
+    Click("cmdSetOption");
+    const auto box = Json::Parse(Run("msgbox"));
+    ASSERT_TRUE(box && box->IsObject());
+    EXPECT_EQ(box->Find("icon")->AsString(), "critical");
+    EXPECT_NE(box->Find("text")->AsString().find("learn.dll"), std::string::npos);
+    EXPECT_EQ(Run("ended"), "true");
+}
+
+} // namespace
