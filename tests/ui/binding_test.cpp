@@ -104,6 +104,13 @@ TEST_F(Adapters, TabsFollowTheModelAndTheUsersChoice) {
     app->Dispatch([&] { form->tabs.SetTab(0); });
     EXPECT_EQ(tabs->currentIndex(), 0);
     EXPECT_EQ(form->previousTabs, (std::vector<int>{0, 1}));
+
+    app->Dispatch([&] { form->tabs.SetTab(2); }); // the program may select a disabled tab
+    EXPECT_EQ(tabs->currentIndex(), 2);
+    app->Dispatch([&] { form->tabs.SetTabEnabled(2, true); });
+    app->Dispatch([&] { form->tabs.SetTabEnabled(0, false); });
+    EXPECT_EQ(tabs->currentIndex(), 2) << "the shown tab follows the model, not the widget's rules";
+    EXPECT_FALSE(tabs->isTabEnabled(0));
 }
 
 TEST_F(Adapters, AListViewShowsItsItemsAndChecksOnlyWhileChecksAreOn) {

@@ -79,7 +79,9 @@ public:
     TextBoxAdapter(Binder& binder, Control& control, QPlainTextEdit* box);
 
 protected:
-    std::vector<Prop> OwnProps() const override { return {Prop::Text, Prop::Locked}; }
+    std::vector<Prop> OwnProps() const override {
+        return {Prop::Text, Prop::Locked, Prop::SelStart};
+    }
     void Show(Prop prop) override;
 
 private:

@@ -24,13 +24,20 @@ TabAdapter::TabAdapter(Binder& binder, TabStrip& tabs, QTabWidget* widget)
 
 void TabAdapter::Show(Prop prop) {
     auto* widget = static_cast<QTabWidget*>(widget_.data());
-    if (prop == Prop::TabState) {
-        for (int i = 0; i < tabs_.Tabs() && i < widget->count(); ++i) {
-            widget->setTabText(i, LabelText(tabs_.TabCaption(i)));
+    if (prop != Prop::TabState && prop != Prop::Tab)
+        return;
+    // The program may select a tab it has disabled (and enable it a moment
+    // later); the widget can't show a disabled tab as current, so the
+    // current one is kept enabled there: the user can't click it anyway.
+    const int current = tabs_.Tab();
+    if (current < widget->count()) {
+        widget->setTabEnabled(current, true);
+        widget->setCurrentIndex(current);
+    }
+    for (int i = 0; i < tabs_.Tabs() && i < widget->count(); ++i) {
+        widget->setTabText(i, LabelText(tabs_.TabCaption(i)));
+        if (i != current)
             widget->setTabEnabled(i, tabs_.TabEnabled(i));
-        }
-    } else if (prop == Prop::Tab) {
-        widget->setCurrentIndex(tabs_.Tab());
     }
 }
 

@@ -8,6 +8,15 @@
 
 namespace quillane::ui {
 
+namespace {
+// The control's caret as a place in its view: the control counts a line end
+// as two characters, the view as one.
+int CaretInView(const Control& control, int last) {
+    const std::string before = control.Text().substr(0, std::size_t(control.SelStart()));
+    return std::min(int(QString::fromStdString(before).replace("\r\n", "\n").size()), last);
+}
+} // namespace
+
 LineAdapter::LineAdapter(Binder& binder, Control& control, QLineEdit* line)
     : Adapter(binder, control, line), designReadOnly_(line->isReadOnly()) {
     Control* c = &control;
@@ -47,6 +56,11 @@ void TextBoxAdapter::Show(Prop prop) {
         const QString text = QString::fromStdString(control_.Text()).replace("\r\n", "\n");
         if (box->toPlainText() != text)
             box->setPlainText(text);
+    } else if (prop == Prop::SelStart) {
+        QTextCursor cursor = box->textCursor();
+        cursor.setPosition(CaretInView(control_, box->document()->characterCount() - 1));
+        box->setTextCursor(cursor);
+        box->ensureCursorVisible();
     }
 }
 
@@ -79,11 +93,9 @@ void RichTextAdapter::Show(Prop prop) {
         shown_ = runs;
     }
     if (prop == Prop::Text || prop == Prop::SelStart) {
-        // The caret counts a line end as two characters; the view as one.
-        const std::string before = control_.Text().substr(0, std::size_t(control_.SelStart()));
-        const int caret = int(QString::fromStdString(before).replace("\r\n", "\n").size());
+        const int caret = CaretInView(control_, view->document()->characterCount() - 1);
         QTextCursor cursor(view->document());
-        cursor.setPosition(std::min(caret, view->document()->characterCount() - 1));
+        cursor.setPosition(caret);
         view->setTextCursor(cursor);
         if (caret == 0) // a text read from its start opens at its top, margin included
             view->verticalScrollBar()->setValue(0);

@@ -202,16 +202,19 @@ QWidget* SubjectShell(Form& form, QWidget* body, const char* subject, const char
     column->setContentsMargins(14, 14, 14, 10);
     column->addWidget(body, 1);
 
-    // The links that stand below the panels in every state.
+    // The links that stand below the panels in every state, the exit button
+    // beside them.
     auto* links = new QFrame;
     links->setObjectName("fraFullBrand");
     auto* linkColumn = new QVBoxLayout(links);
     linkColumn->setContentsMargins(0, 8, 0, 0);
     for (const char* link : {"lblCobrand", "lblFullBrand", forumLabel})
         linkColumn->addWidget(Link(link));
-    column->addWidget(links);
+    auto* foot = new QHBoxLayout;
+    foot->addWidget(links, 1);
     if (form.Find("cmdNav(1)"))
-        column->addWidget(Button("cmdNav(1)"), 0, Qt::AlignRight);
+        foot->addWidget(Button("cmdNav(1)"), 0, Qt::AlignBottom);
+    column->addLayout(foot);
     return window;
 }
 

@@ -29,51 +29,50 @@ QWidget* GoalsPage() {
     return Page(column);
 }
 
+// Four columns: each choice in its frame, its help text below it.
 QWidget* SettingsPage() {
     QVBoxLayout* column = nullptr;
     QWidget* page = Page(column);
     auto* row = new QHBoxLayout;
-    row->setSpacing(14);
+    row->setSpacing(12);
+    auto addColumn = [row](QWidget* frame, std::initializer_list<const char*> help) {
+        auto* stack = new QVBoxLayout;
+        stack->addWidget(frame);
+        for (const char* label : help)
+            stack->addWidget(Label(label, "hint"));
+        stack->addStretch();
+        row->addLayout(stack, 1);
+    };
 
-    auto* cards = new QVBoxLayout;
     auto* objectives = Frame("Frame4");
     auto* ticks = new QGridLayout(objectives);
+    ticks->setVerticalSpacing(2);
     ticks->addWidget(Check("chkMajor"), 0, 0, 1, 2);
     ticks->addWidget(Check("chkMinor"), 1, 0, 1, 2);
     for (int i = 0; i <= 3; ++i)
         ticks->addWidget(Check(Path("chkGroup", i)), 2 + i, 1);
     ticks->setColumnMinimumWidth(0, 18);
     ticks->addWidget(Check("chkReversed"), 6, 0, 1, 2);
-    cards->addWidget(objectives);
-    cards->addWidget(Label("Label18", "hint"));
-    cards->addWidget(Label("Label21", "hint"));
-    cards->addStretch();
-    row->addLayout(cards, 1);
+    addColumn(objectives, {"Label18", "Label21"});
 
-    auto* test = new QVBoxLayout;
     auto* level = Frame("Frame1");
     auto* levels = new QVBoxLayout(level);
     for (int i = 0; i <= 2; ++i)
         levels->addWidget(Option(Path("optDifficulty", i)));
-    levels->addWidget(Label("Label19", "hint"));
-    test->addWidget(level);
+    addColumn(level, {"Label19"});
+
     auto* type = Frame("Frame2");
     auto* types = new QVBoxLayout(type);
     for (int i = 0; i <= 1; ++i)
         types->addWidget(Option(Path("optTestType", i)));
-    types->addWidget(Label("Label20", "hint"));
-    test->addWidget(type);
-    test->addStretch();
-    row->addLayout(test, 1);
+    addColumn(type, {"Label20"});
 
     auto* startUp = Frame("fraSystemTray");
     auto* choices = new QVBoxLayout(startUp);
     choices->addWidget(Option("optRun"));
     choices->addWidget(Option("optDontRun"));
     choices->addWidget(Check("chkSysTray"));
-    choices->addWidget(Label("Label14", "hint"));
-    choices->addStretch();
-    row->addWidget(startUp, 1);
+    addColumn(startUp, {"Label14"});
 
     column->addLayout(row, 1);
     column->addLayout(ButtonRow({Button("cmdSaveSettings")},
@@ -192,7 +191,7 @@ QWidget* BuildTarotWindow(Form& form) {
     for (QWidget* page : {GoalsPage(), SettingsPage(), MemorizePage(), TestPage(), ResultsPage()})
         tabs->addTab(page, QString());
     column->addWidget(tabs);
-    body->setMinimumSize(940, 470);
+    body->setMinimumSize(960, 430);
     return SubjectShell(form, body, "tarot", "Label6");
 }
 
