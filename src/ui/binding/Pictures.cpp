@@ -76,14 +76,18 @@ QPixmap PictureCache::Render(const Picture& picture, QSize size, qreal pixelRati
         source = ":/" + QString::fromStdString(picture.resource);
     else
         return {};
-    const QString key =
-        source + "|" + SizeKey(size, pixelRatio) + (picture.rot180 ? "|turned" : "");
-    return Lookup(key, [&] {
-        QPixmap pixmap = picture.bytes ? DrawBytes(*picture.bytes, size, pixelRatio)
-                                       : RenderSvg(source, size, pixelRatio);
-        if (picture.rot180 && !pixmap.isNull())
-            pixmap = pixmap.transformed(QTransform().rotate(180));
-        return pixmap;
+    if (picture.rot180) {
+        // The turned picture is the upright one, kept or drawn, under a turn.
+        Picture upright = picture;
+        upright.rot180 = false;
+        return Lookup(source + "|" + SizeKey(size, pixelRatio) + "|turned", [&] {
+            const QPixmap shown = Render(upright, size, pixelRatio);
+            return shown.isNull() ? shown : shown.transformed(QTransform().rotate(180));
+        });
+    }
+    return Lookup(source + "|" + SizeKey(size, pixelRatio), [&] {
+        return picture.bytes ? DrawBytes(*picture.bytes, size, pixelRatio)
+                             : RenderSvg(source, size, pixelRatio);
     });
 }
 
