@@ -60,6 +60,8 @@ Form& Application::Load(const std::string& name) {
 
 Form& Application::Show(const std::string& name, bool modal) {
     Form& form = Load(name);
+    if (form.TakeHideWhileLoading())
+        return form;
     if (modal)
         form.SetModal(true);
     if (form.IsMdiChild())

@@ -295,6 +295,13 @@ void Control::Move(int left, int top, int width, int height) {
     Notify(Prop::Geometry);
 }
 
+void Control::SetWindowState(quillane::WindowState state) {
+    if (state == windowState_)
+        return;
+    windowState_ = state;
+    Notify(Prop::WindowState);
+}
+
 bool Control::OnShownPage() const {
     if (page_ < 0 || !container_ || container_->kind_ != ControlKind::TabStrip)
         return true;

@@ -16,6 +16,9 @@ namespace quillane {
 class Form;
 class PanelStack;
 
+// A window's state: shown normally or minimised.
+enum class WindowState { Normal, Minimized };
+
 enum class ControlKind {
     Form,
     Label,
@@ -49,6 +52,7 @@ enum class Prop {
     SelStart,
     Front,
     Geometry,
+    WindowState,
     Locked,
     Tab,      // a tab strip's selected tab
     TabState, // a tab's caption or enabled state
@@ -155,6 +159,9 @@ public:
     int Height() const { return height_; }
     void Move(int left, int top, int width, int height);
     void SetLeft(int left) { Move(left, top_, width_, height_); }
+    // A form's window state.
+    quillane::WindowState WindowState() const { return windowState_; }
+    void SetWindowState(quillane::WindowState state);
     void SetTop(int top) { Move(left_, top, width_, height_); }
 
     // Stacked panels.
@@ -197,6 +204,7 @@ private:
     std::vector<TextRun> runs_;
     long selStart_ = 0;
     int left_ = 0, top_ = 0, width_ = 0, height_ = 0;
+    quillane::WindowState windowState_ = quillane::WindowState::Normal;
 };
 
 // A control array: members by index, from lower to upper.

@@ -7,6 +7,7 @@
 #include <functional>
 #include <memory>
 #include <string>
+#include <utility>
 #include <vector>
 
 namespace quillane {
@@ -34,6 +35,11 @@ public:
 
     // A child window of the launcher.
     bool IsMdiChild() const { return mdiChild_; }
+    // A form that hides itself while it loads is not shown by the Show that
+    // loaded it (a window that starts in the tray).
+    void HideWhileLoading() { hideWhileLoading_ = true; }
+    bool TakeHideWhileLoading() { return std::exchange(hideWhileLoading_, false); }
+
     // The form shown modally over everything.
     bool IsModal() const { return modal_; }
     void SetModal(bool modal) { modal_ = modal; }
@@ -78,6 +84,7 @@ private:
     Control* focused_ = nullptr;
     bool mdiChild_ = false;
     bool modal_ = false;
+    bool hideWhileLoading_ = false;
     std::function<void(Control&, Prop)> observer_;
 };
 

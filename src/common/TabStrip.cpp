@@ -45,10 +45,4 @@ void TabStrip::SetTabCaption(int tab, std::string caption) {
     Notify(Prop::TabState);
 }
 
-Control& TabStrip::Place(Control& control, int tab) const {
-    At(tab);
-    control.SetPage(tab);
-    return control;
-}
-
 } // namespace quillane

@@ -28,9 +28,14 @@ public:
     void SetTabCaption(int tab, std::string caption);
 
     // Places a control on a page.
-    Control& Place(Control& control, int tab) const;
+    template <class C> C& Place(C& control, int tab) const {
+        CheckTab(tab);
+        control.SetPage(tab);
+        return control;
+    }
 
 private:
+    void CheckTab(int tab) const { At(tab); }
     struct TabState {
         std::string caption;
         bool enabled = true;

@@ -27,7 +27,9 @@ template <class T> bool IsInArray(const T& value, const VBArray<T>& array) {
     return false;
 }
 
-inline bool IsInLongArray(std::int32_t value, const VBArray<std::int32_t>& array) { return IsInArray(value, array); }
+inline bool IsInLongArray(std::int32_t value, const VBArray<std::int32_t>& array) {
+    return IsInArray(value, array);
+}
 
 // By exact comparison; an unset element is the empty string, so "" is found
 // in any array with bounds.

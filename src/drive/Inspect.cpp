@@ -122,6 +122,8 @@ std::optional<Json> GetProperty(const Control& c, const std::string& p) {
             return std::nullopt;
         return Json(c.InFront());
     }
+    if (p == "WindowState" && c.Kind() == ControlKind::Form)
+        return Json(c.WindowState() == WindowState::Minimized ? 1 : 0);
     if (p == "Locked" && c.Kind() == ControlKind::TextBox)
         return Json(c.Locked());
     if (p == "ListIndex")

@@ -1,8 +1,10 @@
 #include "frmLearnTarotMain.h"
 
 #include "cards/modDB.h"
+#include "common/Numbers.h"
 #include "common/StateJson.h"
 #include "shell/modHelp.h"
+#include "shell/modSettings.h"
 
 namespace quillane {
 
@@ -89,7 +91,39 @@ frmLearnTarotMain::frmLearnTarotMain(Application& app)
       // Tab 4
       lblResultInfo(SSTab1.Place(Add(ControlKind::Label, "lblResultInfo", &SSTab1), kResultsTab)),
       txtResult(SSTab1.Place(Add(ControlKind::TextBox, "txtResult", &SSTab1), kResultsTab)),
-      Command5(SSTab1.Place(Add(ControlKind::CommandButton, "Command5", &SSTab1), kResultsTab)) {
+      Command5(SSTab1.Place(Add(ControlKind::CommandButton, "Command5", &SSTab1), kResultsTab)),
+      // Tab 0
+      lblInfo(SSTab1.Place(Add(ControlKind::Label, "lblInfo", &SSTab1), kGoalsTab)),
+      Label10(SSTab1.Place(Add(ControlKind::Label, "Label10", &SSTab1), kGoalsTab)),
+      ListView1(SSTab1.Place(AddTyped<ListView>("ListView1", &SSTab1), kGoalsTab)),
+      optGoals(AddArray(ControlKind::OptionButton, "optGoals", 0, 1, &SSTab1)),
+      cmdNewGoal(SSTab1.Place(Add(ControlKind::CommandButton, "cmdNewGoal", &SSTab1), kGoalsTab)),
+      cmdSaveGoals(
+          SSTab1.Place(Add(ControlKind::CommandButton, "cmdSaveGoals", &SSTab1), kGoalsTab)),
+      cmdDeleteGoals(
+          SSTab1.Place(Add(ControlKind::CommandButton, "cmdDeleteGoals", &SSTab1), kGoalsTab)),
+      cmdMarkAchived(
+          SSTab1.Place(Add(ControlKind::CommandButton, "cmdMarkAchived", &SSTab1), kGoalsTab)),
+      Label15(SSTab1.Place(Add(ControlKind::Label, "Label15", &SSTab1), kGoalsTab)),
+      txtGoalName(SSTab1.Place(Add(ControlKind::TextBox, "txtGoalName", &SSTab1), kGoalsTab)),
+      Label16(SSTab1.Place(Add(ControlKind::Label, "Label16", &SSTab1), kGoalsTab)),
+      txtGoalDesc(SSTab1.Place(Add(ControlKind::TextBox, "txtGoalDesc", &SSTab1), kGoalsTab)),
+      Label12(SSTab1.Place(Add(ControlKind::Label, "Label12", &SSTab1), kGoalsTab)),
+      mydtpStartingDate(
+          SSTab1.Place(AddTyped<UserControl1>("mydtpStartingDate", &SSTab1), kGoalsTab)),
+      Label11(SSTab1.Place(Add(ControlKind::Label, "Label11", &SSTab1), kGoalsTab)),
+      mydtpEndingDate(SSTab1.Place(AddTyped<UserControl1>("mydtpEndingDate", &SSTab1), kGoalsTab)),
+      Frame3(SSTab1.Place(Add(ControlKind::Frame, "Frame3", &SSTab1), kGoalsTab)),
+      Label7(Add(ControlKind::Label, "Label7", &Frame3)),
+      lblDayCount(Add(ControlKind::Label, "lblDayCount", &Frame3)),
+      Label1(Add(ControlKind::Label, "Label1", &Frame3)),
+      lblDaysRemaining(Add(ControlKind::Label, "lblDaysRemaining", &Frame3)),
+      Label13(Add(ControlKind::Label, "Label13", &Frame3)),
+      Combo3(Add(ControlKind::ComboBox, "Combo3", &Frame3)),
+      picHook(Add(ControlKind::PictureBox, "picHook")),
+      mnuPopUp(Add(ControlKind::Menu, "mnuPopUp")),
+      mnuShow(Add(ControlKind::Menu, "mnuShow", &mnuPopUp)),
+      mnuExit(Add(ControlKind::Menu, "mnuExit", &mnuPopUp)) {
     mnuFile.SetCaption("&File");
     mnuTabGoals.SetCaption("&My Personal Goals");
     mnuTabSettings.SetCaption("Settings");
@@ -106,6 +140,8 @@ frmLearnTarotMain::frmLearnTarotMain(Application& app)
     BuildSettingsTab();
     BuildMemorizeTab();
     BuildTestTab();
+    BuildGoalsTab();
+    BuildTray();
 
     lblResultInfo.SetCaption("Label7");
     Command5.SetCaption("Save Current Result");
@@ -121,12 +157,24 @@ void frmLearnTarotMain::Form_Load() {
     modHelp::CheckForUpdateReminder(App());
     SSTab1.SetTab(kSettingsTab);
     Text1.SetVisible(false);
-    // The personal goals are loaded here.
+    LoadGoalsAtStart();
     LoadTarotSettings();
-    // The start-up choice is set here.
+    // The start-up choice: the entry's presence is the whole of it, and it is
+    // written again with the program's present path.
+    const std::string name = App().Svc().folder->ExeName();
+    if (IsRunAtStartup(name)) {
+        optRun.SetValue(vbTrue);
+        const std::string tray = modSettings::GetSetting(App(), modSettings::AppName(App()),
+                                                         "Settings", "RunAtSysTray", "False");
+        chkSysTray.SetValue(tray == "True" ? 1 : 0);
+    } else {
+        optDontRun.SetValue(vbTrue);
+    }
     for (int tab : {kMemorizeTab, kTestTab, kResultsTab})
         SSTab1.SetTabEnabled(tab, false);
-    // The tray test comes here.
+    if (chkSysTray.Value() == 1 &&
+        App().Svc().folder->CommandLine().find("/STARTUP") != std::string::npos)
+        MinimizeToTray();
 }
 
 void frmLearnTarotMain::SSTab1_Click(int PreviousTab) {

@@ -3,8 +3,10 @@
 // memorising, the test, the results), a menu and an exit button outside the
 // tabs. The settings, the walk, the test and the report each have a file of
 // their own; this one holds the frame and the tab rules.
+#include "common/ListView.h"
 #include "common/TabStrip.h"
 #include "common/VBArray.h"
+#include "goals/UserControl1.h"
 #include "shell/SubjectWindow.h"
 
 #include <cstdint>
@@ -62,6 +64,34 @@ public:
     // The report (TarotReport.cpp).
     void ShowTestReport();
     void Command5_Click();
+
+    // The personal goals (TarotGoals.cpp).
+    void LoadGoalsAtStart();
+    void ReadGoals();
+    void WriteGoals();
+    void WriteGoalsExcept(long index);
+    void AddGoal();
+    void DisplayGoals(bool ShowAchieved);
+    void ClearGoalPanel();
+    void ShowGoalProgress();
+    void optGoals_Click(int Index);
+    void ListView1_ItemClick(int item);
+    void cmdNewGoal_Click();
+    void cmdSaveGoals_Click();
+    void cmdMarkAchived_Click();
+    void cmdDeleteGoals_Click();
+    void Pickers_DateChanged();
+
+    // Start at logon and the tray (TarotTray.cpp).
+    bool IsRunAtStartup(const std::string& valueName);
+    void SetRunAtStartup(const std::string& valueName, const std::string& folder, bool enable);
+    void optRun_Click();
+    void optDontRun_Click();
+    void chkSysTray_Click();
+    void MinimizeToTray();
+    void RemoveTrayIcon();
+    void mnuShow_Click();
+    void mnuExit_Click();
 
     Control& mnuFile;
     Control& mnuTabGoals;
@@ -129,6 +159,38 @@ public:
     Control& txtResult;
     Control& Command5;
 
+    // Tab 0: the personal goals.
+    Control& lblInfo;
+    Control& Label10;
+    ListView& ListView1;
+    ControlArray optGoals;
+    PanelStack goalViews; // the two view buttons lie on one spot
+    Control& cmdNewGoal;
+    Control& cmdSaveGoals;
+    Control& cmdDeleteGoals;
+    Control& cmdMarkAchived;
+    Control& Label15;
+    Control& txtGoalName;
+    Control& Label16;
+    Control& txtGoalDesc;
+    Control& Label12;
+    UserControl1& mydtpStartingDate;
+    Control& Label11;
+    UserControl1& mydtpEndingDate;
+    Control& Frame3;
+    Control& Label7;
+    Control& lblDayCount;
+    Control& Label1;
+    Control& lblDaysRemaining;
+    Control& Label13;
+    Control& Combo3;
+
+    // The tray.
+    Control& picHook;
+    Control& mnuPopUp;
+    Control& mnuShow;
+    Control& mnuExit;
+
     // The walk.
     std::int32_t lngCardPosition = 0;
     std::int32_t lngCardCount = 0;
@@ -151,6 +213,12 @@ private:
     void BuildSettingsTab();
     void BuildMemorizeTab();
     void BuildTestTab();
+    void BuildGoalsTab();
+    void BuildTray();
+    // The goal file, in the program's files folder.
+    std::string GoalFilePath() const;
+    // The goal file was not read to its end: it is kept before it is written.
+    bool goalFileIncomplete_ = false;
     // Whether the Description test is chosen.
     bool DescriptionTest() const { return optTestType(0).Selected(); }
     // The level: 0 Beginner, 1 Intermediate, 2 Advanced.

@@ -1,11 +1,9 @@
 // The Tarot window through the driver: the selection rules against the cards
 // they select, the walk, whole tests at every level checked line by line
 // against the answers given, the report's summaries, and saving.
-#include "DriveSession.h"
-#include "app/Composition.h"
+#include "TarotSession.h"
 #include "cards/modDB.h"
 #include "common/Numbers.h"
-#include "drive/Driver.h"
 #include "tarot/frmLearnTarotMain.h"
 
 #include <gtest/gtest.h>
@@ -16,52 +14,10 @@
 #include <set>
 
 using namespace quillane;
+using quillane::testing::kForm;
+using quillane::testing::Tarot;
 
 namespace {
-
-constexpr const char* kForm = "frmLearnTarotMain";
-
-class Tarot : public ::testing::Test {
-protected:
-    explicit Tarot(bool withDeck = true) {
-        if (withDeck)
-            std::filesystem::copy_file(QUILLANE_LEARN_DLL, dir.Path() / "learn.dll");
-        Do("start");
-        Do("click frmMDI.cmdSelectOption(2)");
-    }
-    static drive::DriverOptions Options(const quillane::testing::ScratchDir& dir) {
-        drive::DriverOptions o;
-        o.programDir = o.userDir = dir.Str();
-        o.seed = 11;
-        o.today = Date(2026, 11, 23);
-        return o;
-    }
-    // Runs one command on the window; "ok" is expected of actions.
-    std::string Run(const std::string& command) {
-        return driver.Execute(command).value_or("(none)");
-    }
-    void Do(const std::string& command) { ASSERT_EQ(Run(command), "ok") << command; }
-    void Click(const std::string& control) { Do("click " + std::string(kForm) + "." + control); }
-    Json Get(const std::string& what) {
-        const std::string answer = Run("get " + std::string(kForm) + "." + what);
-        auto value = Json::Parse(answer);
-        EXPECT_TRUE(value) << what << ": " << answer;
-        return value ? *value : Json();
-    }
-    std::string Text(const std::string& what) { return Get(what).AsString(); }
-    long Number(const std::string& what) { return long(Get(what).AsInt()); }
-    long Cards() { return long(modDB::rsCards->RecordCount()); }
-    // Unticks the named settings until only what is wanted is left.
-    void Untick(std::initializer_list<const char*> boxes) {
-        for (const char* box : boxes)
-            Do("set " + std::string(kForm) + "." + box + ".Value 0");
-    }
-
-    quillane::testing::ScratchDir dir;
-    drive::DrivePlatform platform{Options(dir)};
-    app::Program program{platform.Wired()};
-    drive::Driver driver{program.App(), platform};
-};
 
 TEST_F(Tarot, TheSelectionRulesChooseTheirCards) {
     EXPECT_EQ(Number("SSTab1.Tab"), 1);

@@ -130,11 +130,17 @@ void Binder::Update(Control& control, Prop prop) {
     if (&control == &form_.Me()) {
         if (prop == Prop::Caption)
             root_->setWindowTitle(QString::fromStdString(control.Caption()));
+        QWidget* frame =
+            qobject_cast<QMdiSubWindow*>(root_->parentWidget()) ? root_->parentWidget() : root_;
+        if (prop == Prop::WindowState) {
+            if (control.WindowState() == WindowState::Minimized)
+                frame->showMinimized();
+            else if (frame->isMinimized())
+                frame->showNormal();
+        }
         // A form the program hides: its frame (the launcher's sub-window for a
         // child) goes from view; showing it again goes through FormShown.
         if (prop == Prop::Visible && !control.Visible()) {
-            QWidget* frame =
-                qobject_cast<QMdiSubWindow*>(root_->parentWidget()) ? root_->parentWidget() : root_;
             if (!qobject_cast<QMainWindow*>(frame))
                 frame->hide();
         }

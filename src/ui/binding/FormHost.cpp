@@ -71,9 +71,13 @@ void FormHost::FormShown(Form& form) {
         main_->showMaximized();
     } else if (auto* sub = qobject_cast<QMdiSubWindow*>(frame)) {
         sub->adjustSize();
+        sub->resize(sub->size().expandedTo(sub->minimumSizeHint()));
         // Centred across the client area, at its top.
         sub->move(std::max(0, (mdi_->viewport()->width() - sub->width()) / 2), 0);
-        sub->show();
+        if (form.Me().WindowState() == WindowState::Minimized)
+            sub->showMinimized();
+        else
+            sub->show();
         mdi_->setActiveSubWindow(sub);
     } else if (!form.IsModal()) {
         frame->show();

@@ -212,9 +212,23 @@ QWidget* SubjectShell(Form& form, QWidget* body, const char* subject, const char
         linkColumn->addWidget(Link(link));
     auto* foot = new QHBoxLayout;
     foot->addWidget(links, 1);
-    if (form.Find("cmdNav(1)"))
-        foot->addWidget(Button("cmdNav(1)"), 0, Qt::AlignBottom);
+    int linkWidth = body->minimumWidth();
+    if (form.Find("cmdNav(1)")) {
+        QPushButton* exit = Button("cmdNav(1)");
+        foot->addWidget(exit, 0, Qt::AlignBottom);
+        linkWidth -= exit->sizeHint().width() + foot->spacing();
+    }
     column->addLayout(foot);
+    // The links wrap, and the window is sized before they get their texts:
+    // their height at the narrowest width is reserved from the form's
+    // captions, so they never ride over the panels.
+    window->ensurePolished();
+    for (auto* label : links->findChildren<QLabel*>()) {
+        label->ensurePolished();
+        if (Control* c = form.Find(label->objectName().toStdString()))
+            label->setText(LabelText(c->Caption()));
+    }
+    links->setMinimumHeight(linkColumn->totalHeightForWidth(linkWidth));
     return window;
 }
 

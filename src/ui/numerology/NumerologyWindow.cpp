@@ -158,23 +158,6 @@ QWidget* ResultPanel() {
     return panel;
 }
 
-// The link labels below the panels wrap; the window is sized before they
-// get their texts, so their height is reserved here from the form's captions,
-// and they no longer ride over the bottom of the panels.
-void KeepLinksInView(Form& form, QWidget* window, int width) {
-    auto* links = window->findChild<QFrame*>("fraFullBrand");
-    if (!links)
-        return;
-    window->ensurePolished();
-    for (auto* label : links->findChildren<QLabel*>()) {
-        label->ensurePolished();
-        if (Control* c = form.Find(label->objectName().toStdString()))
-            label->setText(LabelText(c->Caption()));
-    }
-    if (links->layout())
-        links->setMinimumHeight(links->layout()->totalHeightForWidth(width));
-}
-
 } // namespace
 
 QWidget* BuildNumerologyWindow(Form& form) {
@@ -187,9 +170,7 @@ QWidget* BuildNumerologyWindow(Form& form) {
                               QuestionPanel(form), ResultPanel()});
     stack->setObjectName("numerologyPanels");
     column->addWidget(stack);
-    QWidget* window = kit::SubjectShell(form, body, "numerology", "Label14");
-    KeepLinksInView(form, window, body->minimumWidth());
-    return window;
+    return kit::SubjectShell(form, body, "numerology", "Label14");
 }
 
 void RegisterNumerologyWindows(FormHost& host) {

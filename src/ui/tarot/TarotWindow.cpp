@@ -4,8 +4,10 @@
 
 #include <QFontDatabase>
 #include <QGridLayout>
+#include <QLineEdit>
 #include <QScrollArea>
 #include <QTabWidget>
+#include <QTreeWidget>
 
 namespace quillane::ui {
 
@@ -19,14 +21,86 @@ constexpr QSize kCardSize(132, 228);
 QWidget* Page(QVBoxLayout*& column) {
     auto* page = new QWidget;
     column = new QVBoxLayout(page);
-    column->setContentsMargins(14, 12, 14, 10);
-    column->setSpacing(8);
+    column->setContentsMargins(12, 8, 12, 8);
+    column->setSpacing(6);
     return page;
 }
 
+// The date picker: day, month and year side by side, at a fixed size.
+QWidget* DatePicker(const QString& path) {
+    auto* picker = Panel(path);
+    auto* row = new QHBoxLayout(picker);
+    row->setContentsMargins(0, 0, 0, 0);
+    row->setSpacing(4);
+    for (const char* list : {"cboDate", "cboMonth", "cboYear"}) {
+        auto* combo = DropDown(list);
+        combo->setMaxVisibleItems(12);
+        row->addWidget(combo, QString(list) == "cboMonth" ? 2 : 1);
+    }
+    picker->setFixedWidth(260);
+    return picker;
+}
+
+// The goals in a list on the left, the goal in view on the right.
 QWidget* GoalsPage() {
     QVBoxLayout* column = nullptr;
-    return Page(column);
+    QWidget* page = Page(column);
+    // Two lines at the window's width; the tab reserves them.
+    auto* intro = Label("Label10", "hint");
+    intro->setMinimumHeight(2 * intro->fontMetrics().lineSpacing() + 6);
+    column->addWidget(intro);
+    auto* row = new QHBoxLayout;
+    row->setSpacing(14);
+
+    auto* list = new QVBoxLayout;
+    list->setSpacing(6);
+    auto* views = new QStackedWidget;
+    for (int i = 1; i >= 0; --i) {
+        auto* view = Button(Path("optGoals", i));
+        view->setCheckable(true);
+        views->addWidget(view);
+    }
+    views->setFixedHeight(views->sizeHint().height());
+    list->addWidget(views);
+    auto* goals = Named(new QTreeWidget, "ListView1");
+    goals->setMinimumWidth(220);
+    goals->setMinimumHeight(100);
+    list->addWidget(goals, 1);
+    list->addWidget(Button("cmdNewGoal"));
+    list->addWidget(Button("cmdMarkAchived"));
+    list->addWidget(Button("cmdDeleteGoals"));
+    row->addLayout(list, 2);
+
+    auto* goal = new QGridLayout;
+    goal->setVerticalSpacing(6);
+    goal->addWidget(Label("Label15", "caption"), 0, 0);
+    auto* name = Named(new QLineEdit, "txtGoalName");
+    goal->addWidget(name, 0, 1, 1, 3);
+    goal->addWidget(Label("Label16", "caption"), 1, 0, Qt::AlignTop);
+    auto* description = TextBox("txtGoalDesc");
+    description->setMaximumHeight(90);
+    goal->addWidget(description, 1, 1, 1, 3);
+    goal->addWidget(Label("Label12", "caption"), 2, 0);
+    goal->addWidget(DatePicker("mydtpStartingDate"), 2, 1);
+    goal->addWidget(Label("Label11", "caption"), 3, 0);
+    goal->addWidget(DatePicker("mydtpEndingDate"), 3, 1);
+    auto* timer = Frame("Frame3");
+    auto* figures = new QGridLayout(timer);
+    figures->addWidget(Label("Label7"), 0, 0);
+    figures->addWidget(Label("lblDayCount", "caption", false), 0, 1);
+    figures->addWidget(Label("Label1"), 1, 0);
+    figures->addWidget(Label("lblDaysRemaining", "caption", false), 1, 1);
+    figures->addWidget(Label("Label13"), 2, 0);
+    figures->addWidget(DropDown("Combo3"), 2, 1);
+    figures->setColumnStretch(0, 1);
+    goal->addWidget(timer, 2, 2, 2, 2);
+    goal->addWidget(Label("lblInfo", "caption", false), 4, 0, 1, 3);
+    goal->addWidget(Button("cmdSaveGoals", true), 4, 3, Qt::AlignRight);
+    goal->setColumnStretch(3, 1);
+    goal->setRowStretch(5, 1);
+    row->addLayout(goal, 5);
+    column->addLayout(row, 1);
+    return page;
 }
 
 // Four columns: each choice in its frame, its help text below it.
@@ -187,6 +261,10 @@ QWidget* BuildTarotWindow(Form& form) {
     body->setObjectName("tarotBody");
     auto* column = new QVBoxLayout(body);
     column->setContentsMargins(0, 0, 0, 0);
+    // The invisible control that the tray's messages were once addressed to.
+    auto* hook = Picture("picHook", QSize(1, 1));
+    hook->hide();
+    column->addWidget(hook);
     auto* tabs = Named(new QTabWidget, "SSTab1");
     for (QWidget* page : {GoalsPage(), SettingsPage(), MemorizePage(), TestPage(), ResultsPage()})
         tabs->addTab(page, QString());
