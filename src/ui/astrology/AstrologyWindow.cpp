@@ -30,8 +30,8 @@ QPushButton* Command(const QString& path, bool primary = false) {
 // The main and sub heading of a run, with a rule below them.
 QVBoxLayout* Headings(QWidget* panel, const QString& mainPath, const QString& subPath) {
     auto* column = new QVBoxLayout(panel);
-    column->setContentsMargins(22, 16, 22, 16);
-    column->setSpacing(4);
+    column->setContentsMargins(22, 12, 22, 12);
+    column->setSpacing(2);
     column->addWidget(Text(mainPath, "heading"));
     column->addWidget(Text(subPath, "sub"));
     column->addSpacing(6);
@@ -63,8 +63,8 @@ QWidget* ZodiacStrip() {
 QWidget* ChoicePanel() {
     auto* panel = Panel("Frame1");
     auto* column = new QVBoxLayout(panel);
-    column->setContentsMargins(36, 30, 36, 24);
-    column->setSpacing(14);
+    column->setContentsMargins(30, 20, 30, 16);
+    column->setSpacing(10);
     column->addWidget(Text("Label1(0)", "heading"));
     column->addWidget(Text("Label1(1)", "intro"));
     column->addSpacing(8);
@@ -144,35 +144,36 @@ QWidget* QuestionPanel(Form& form) {
     auto* panel = Panel("Frame3");
     auto* column = Headings(panel, "lblTest(0)", "lblTest(1)");
 
+    // The sign or planet asked on the left, the five choices beside it.
     auto* question = new QHBoxLayout;
     question->setSpacing(18);
+    auto* asked = new QVBoxLayout;
     auto* glyph = Picture("picTest", QSize(96, 96));
     glyph->setProperty("role", "glyph");
-    question->addWidget(glyph);
-    auto* asked = new QVBoxLayout;
-    asked->addStretch(1);
+    asked->addWidget(glyph, 0, Qt::AlignHCenter);
     asked->addWidget(Text("lblTest(2)", "title"));
     asked->addWidget(Text("lblTest(3)", "hint"));
     asked->addStretch(1);
-    question->addLayout(asked, 1);
-    column->addLayout(question);
-    column->addSpacing(8);
+    auto* left = new QWidget;
+    left->setFixedWidth(170);
+    left->setLayout(asked);
+    question->addWidget(left);
 
     auto* choices = new QGridLayout;
     choices->setHorizontalSpacing(10);
-    choices->setVerticalSpacing(8);
+    choices->setVerticalSpacing(6);
     for (int c = 0; c <= 4; ++c) {
         choices->addWidget(new kit::BareOption(QString("optAnswer_Choice(%1)").arg(c)), c, 0,
                            Qt::AlignTop);
         const QString path = QString("txtAnswer_Choice(%1)").arg(c);
         auto* box = TextBox(path, true);
-        box->setFixedHeight(62);
+        box->setFixedHeight(50);
         box->viewport()->setCursor(Qt::PointingHandCursor);
         box->viewport()->installEventFilter(new ClickForwarder(form, path.toStdString(), box));
         choices->addWidget(box, c, 1);
     }
-    column->addLayout(choices);
-    column->addStretch(1);
+    question->addLayout(choices, 1);
+    column->addLayout(question, 1);
     column->addSpacing(8);
 
     auto* buttons = new QHBoxLayout;
@@ -205,8 +206,8 @@ QWidget* BuildAstrologyWindow(Form& form) {
     auto* layout = new QVBoxLayout(body);
     layout->setContentsMargins(0, 0, 0, 0);
     layout->addWidget(Stack({ChoicePanel(), BrowsingPanel(), QuestionPanel(form), ReportPanel()}));
-    // The window keeps one size; long texts scroll inside it.
-    body->setFixedSize(820, 580);
+    // Long texts scroll inside the window, which fits a 1366 by 768 screen.
+    body->setMinimumSize(900, 430);
     return SubjectShell(form, body, "astrology", "Label61");
 }
 

@@ -70,8 +70,9 @@ void FormHost::FormShown(Form& form) {
             main_->setGeometry(screen->availableGeometry());
         main_->showMaximized();
     } else if (auto* sub = qobject_cast<QMdiSubWindow*>(frame)) {
-        sub->adjustSize();
-        sub->resize(sub->size().expandedTo(sub->minimumSizeHint()));
+        // As large as it likes within the client area, never below its minimum.
+        sub->resize(
+            sub->sizeHint().boundedTo(mdi_->viewport()->size()).expandedTo(sub->minimumSizeHint()));
         // Centred across the client area, at its top.
         sub->move(std::max(0, (mdi_->viewport()->width() - sub->width()) / 2), 0);
         if (form.Me().WindowState() == WindowState::Minimized)

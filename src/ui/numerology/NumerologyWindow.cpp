@@ -119,7 +119,7 @@ QWidget* QuestionPanel(Form& form) {
     for (int i = 0; i <= 4; ++i) {
         auto* option = kit::Option(QString("optChoice(%1)").arg(i));
         auto* text = kit::TextBox(QString("txtOption(%1)").arg(i), true);
-        text->setFixedHeight(68);
+        text->setFixedHeight(54);
         text->setLineWrapMode(QPlainTextEdit::WidgetWidth);
         text->viewport()->setCursor(Qt::PointingHandCursor);
         text->viewport()->installEventFilter(
@@ -163,7 +163,7 @@ QWidget* ResultPanel() {
 QWidget* BuildNumerologyWindow(Form& form) {
     auto* body = new QWidget;
     body->setObjectName("numerologyBody");
-    body->setMinimumSize(880, 560);
+    body->setMinimumSize(900, 430);
     auto* column = new QVBoxLayout(body);
     column->setContentsMargins(0, 0, 0, 0);
     auto* stack = kit::Stack({StartPanel(), OptionsPanel(), StudyPanel(), SubjectPanel(),

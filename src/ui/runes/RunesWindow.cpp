@@ -70,7 +70,7 @@ QWidget* MemorizePanel() {
         grid->addWidget(Label(Path("lblMeaningCaption", i), "caption"), 0, i);
         grid->addWidget(Picture(Path("picStone", i), QSize(113, 151), "stone"), 1, i,
                         Qt::AlignHCenter);
-        grid->addWidget(Box(Path("txtMeaning", i), 150), 2, i);
+        grid->addWidget(Box(Path("txtMeaning", i), 100), 2, i);
         grid->setColumnStretch(i, 1);
     }
     column->addLayout(grid, 1);
@@ -148,7 +148,7 @@ QWidget* GoalsPanel() {
     for (int goal = 1; goal <= 2; ++goal) {
         const QString n = QString::number(goal);
         column->addWidget(Check("chkGoal" + n));
-        column->addWidget(Box("txtGoal" + n, 120), 1);
+        column->addWidget(Box("txtGoal" + n, 70), 1);
         auto* row = new QHBoxLayout;
         row->addStretch();
         row->addWidget(Button("cmdGoal" + n));
@@ -188,7 +188,7 @@ QWidget* ResultPanel() {
     auto* panel = Panel("picTestResult");
     auto* column = new QVBoxLayout(panel);
     column->addWidget(Label("Label1", "heading"));
-    auto* result = Box("txtResult", 300);
+    auto* result = Box("txtResult", 200);
     // The report's columns line up only in a fixed-pitch font.
     result->setFont(QFontDatabase::systemFont(QFontDatabase::FixedFont));
     result->setLineWrapMode(QPlainTextEdit::NoWrap);
@@ -213,7 +213,7 @@ QWidget* BuildRunesWindow(Form& form) {
     column->addWidget(Stack({SettingsPanel(), MemorizePanel(), TestSetUpPanel(), GoalsPanel(),
                              KeywordPanel(), ResultPanel()}),
                       1);
-    body->setMinimumSize(860, 560);
+    body->setMinimumSize(900, 430);
     return SubjectShell(form, body, "runes", "Label14");
 }
 

@@ -32,6 +32,30 @@ private:
     QSvgRenderer renderer_;
 };
 
+// Hides the bar's decorations while the window is too narrow for them, so the
+// subject buttons keep their room on a small screen.
+class NarrowWindowTrim : public QObject {
+public:
+    NarrowWindowTrim(QWidget* window, QList<QWidget*> decorations, int wideEnough)
+        : QObject(window), decorations_(std::move(decorations)), wideEnough_(wideEnough) {
+        window->installEventFilter(this);
+    }
+
+protected:
+    bool eventFilter(QObject* watched, QEvent* event) override {
+        if (event->type() == QEvent::Resize) {
+            const bool wide = static_cast<QWidget*>(watched)->width() >= wideEnough_;
+            for (QWidget* decoration : decorations_)
+                decoration->setVisible(wide);
+        }
+        return QObject::eventFilter(watched, event);
+    }
+
+private:
+    QList<QWidget*> decorations_;
+    int wideEnough_;
+};
+
 // Shows the client area exactly while the welcome panel is hidden.
 class ClientAreaFollower : public QObject {
 public:
@@ -93,8 +117,16 @@ QWidget* BuildLauncher(Form&) {
     buttonRow->setContentsMargins(0, 0, 0, 0);
     buttonRow->setSpacing(14);
     const QSize decorSize(120, 48);
-    buttonRow->addWidget(Picture("Picture2", ":/launcher/decor-1.svg", decorSize));
-    buttonRow->addWidget(Picture("Picture3", ":/launcher/decor-2.svg", decorSize));
+    QList<QWidget*> decorations;
+    auto decoration = [&](const char* name, const char* resource) {
+        decorations << Picture(name, resource, decorSize);
+        // They give way first when the window is narrow.
+        decorations.back()->setMinimumSize(1, decorSize.height());
+        decorations.back()->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Fixed);
+        buttonRow->addWidget(decorations.back());
+    };
+    decoration("Picture2", ":/launcher/decor-1.svg");
+    decoration("Picture3", ":/launcher/decor-2.svg");
     for (int i = 0; i < 4; ++i) {
         auto* button = new QToolButton;
         button->setObjectName(QString("cmdSelectOption(%1)").arg(i));
@@ -102,12 +134,13 @@ QWidget* BuildLauncher(Form&) {
         button->setToolButtonStyle(Qt::ToolButtonTextUnderIcon);
         button->setIcon(QIcon(kEmblems[i]));
         button->setIconSize(QSize(48, 48));
-        button->setMinimumWidth(176);
+        button->setMinimumWidth(160);
         button->setCursor(Qt::PointingHandCursor);
         buttonRow->addWidget(button);
     }
-    buttonRow->addWidget(Picture("Picture4", ":/launcher/decor-3.svg", decorSize));
-    buttonRow->addWidget(Picture("Picture5", ":/launcher/decor-4.svg", decorSize));
+    decoration("Picture4", ":/launcher/decor-3.svg");
+    decoration("Picture5", ":/launcher/decor-4.svg");
+    new NarrowWindowTrim(window, decorations, 1300);
     barRow->addStretch();
     barRow->addWidget(buttons);
     barRow->addStretch();
@@ -175,8 +208,9 @@ QWidget* BuildLauncher(Form&) {
     fullBrand->setMaximumWidth(560);
     bottomRow->addWidget(fullBrand, 1);
     auto* banner = Label("lblZenthoraBanner", "link");
-    bottomRow->addWidget(banner);
-    bottomRow->addStretch();
+    banner->setWordWrap(true);
+    banner->setAlignment(Qt::AlignLeft | Qt::AlignVCenter);
+    bottomRow->addWidget(banner, 1);
     auto* exit = new QPushButton;
     exit->setObjectName("cmdMdiExit");
     exit->setCursor(Qt::PointingHandCursor);
