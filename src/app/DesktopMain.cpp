@@ -2,6 +2,7 @@
 #include "Composition.h"
 #include "shell/StartUp.h"
 #include "ui/binding/FormHost.h"
+#include "ui/kit/Keyboard.h"
 #include "ui/kit/Theme.h"
 #include "ui/shell/QtServices.h"
 
@@ -15,6 +16,7 @@ int main(int argc, char** argv) {
     QApplication::setWindowIcon(QIcon(":/icons/quillane.svg"));
     QApplication::setQuitOnLastWindowClosed(false);
     quillane::ui::theme::Apply(qt);
+    quillane::ui::kit::InstallKeyboard(qt);
 
     using namespace quillane;
     ui::DesktopPlatform platform(QApplication::applicationDirPath(),

@@ -7,6 +7,7 @@
 #include "drive/DrivePlatform.h"
 #include "shell/StartUp.h"
 #include "ui/binding/FormHost.h"
+#include "ui/kit/Keyboard.h"
 #include "ui/kit/Theme.h"
 
 #include <QApplication>
@@ -19,8 +20,11 @@ inline void EnsureQApplication() {
     static int argc = 1;
     static char name[] = "quillane-test";
     static char* argv[] = {name, nullptr};
-    if (!QApplication::instance())
-        ui::theme::Apply(*new QApplication(argc, argv));
+    if (!QApplication::instance()) {
+        auto* app = new QApplication(argc, argv);
+        ui::theme::Apply(*app);
+        ui::kit::InstallKeyboard(*app);
+    }
 }
 
 class DesktopSession {

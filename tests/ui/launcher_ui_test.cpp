@@ -122,3 +122,19 @@ TEST_F(LauncherUi, ASubjectClosedByItsOwnButtonLeavesNothingBehind) {
     EXPECT_TRUE(Widget<QMdiArea>("mdiArea")->subWindowList().isEmpty());
     EXPECT_TRUE(Widget<QWidget>("picMain")->isVisible());
 }
+
+TEST_F(LauncherUi, EverySubjectOpensAndClosesByKeyboard) {
+    Main()->activateWindow();
+    QApplication::setActiveWindow(Main());
+    auto* tarot = Widget<QAbstractButton>("cmdSelectOption(2)");
+    tarot->setFocus();
+    QTest::keyClick(tarot, Qt::Key_Return);
+    EXPECT_NE(app->Find("frmLearnTarotMain"), nullptr) << "Return presses the focused button";
+    QTest::keyClick(Main(), Qt::Key_R, Qt::AltModifier);
+    EXPECT_EQ(app->Find("frmLearnTarotMain"), nullptr);
+    EXPECT_NE(app->Find("frmLearnRunesMain"), nullptr) << "Alt+R opens the Runes";
+    QTest::keyClick(Main(), Qt::Key_F4, Qt::ControlModifier);
+    QCoreApplication::processEvents();
+    EXPECT_EQ(app->Find("frmLearnRunesMain"), nullptr) << "Ctrl+F4 closes the subject in front";
+    EXPECT_TRUE(Widget<QWidget>("picMain")->isVisible());
+}

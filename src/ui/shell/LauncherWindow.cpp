@@ -6,8 +6,10 @@
 #include <QLabel>
 #include <QMainWindow>
 #include <QMdiArea>
+#include <QMdiSubWindow>
 #include <QPainter>
 #include <QPushButton>
+#include <QShortcut>
 #include <QSvgRenderer>
 #include <QToolButton>
 #include <QVBoxLayout>
@@ -91,6 +93,8 @@ QLabel* Label(const QString& name, const char* role) {
     return label;
 }
 
+const char kInitials[4] = {'A', 'N', 'T', 'R'};
+
 const char* const kEmblems[4] = {":/launcher/emblem-astrology.svg",
                                  ":/launcher/emblem-numerology.svg", ":/launcher/emblem-tarot.svg",
                                  ":/launcher/emblem-runes.svg"};
@@ -136,6 +140,12 @@ QWidget* BuildLauncher(Form&) {
         button->setIconSize(QSize(48, 48));
         button->setMinimumWidth(160);
         button->setCursor(Qt::PointingHandCursor);
+        button->setFocusPolicy(Qt::StrongFocus);
+        // The subjects by the keyboard: Alt and the subject's initial.
+        const QKeySequence keys(QString("Alt+%1").arg(kInitials[i]));
+        auto* shortcut = new QShortcut(keys, window);
+        QObject::connect(shortcut, &QShortcut::activated, button, &QToolButton::click);
+        button->setToolTip(keys.toString(QKeySequence::NativeText));
         buttonRow->addWidget(button);
     }
     decoration("Picture4", ":/launcher/decor-3.svg");
@@ -218,6 +228,15 @@ QWidget* BuildLauncher(Form&) {
     column->addWidget(bottom);
 
     window->setCentralWidget(central);
+    // Ctrl+F4 closes the subject window in front, as its close button does.
+    auto* closeChild = new QShortcut(QKeySequence("Ctrl+F4"), window);
+    auto closeActive = [mdi] {
+        if (QMdiSubWindow* child = mdi->activeSubWindow())
+            child->close();
+    };
+    // The sub-window's own menu has the same keys; either way the child goes.
+    QObject::connect(closeChild, &QShortcut::activated, mdi, closeActive);
+    QObject::connect(closeChild, &QShortcut::activatedAmbiguously, mdi, closeActive);
     return window;
 }
 
