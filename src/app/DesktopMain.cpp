@@ -2,6 +2,7 @@
 #include "Composition.h"
 #include "shell/StartUp.h"
 #include "ui/binding/FormHost.h"
+#include "ui/kit/Accessibility.h"
 #include "ui/kit/Keyboard.h"
 #include "ui/kit/Theme.h"
 #include "ui/shell/QtServices.h"
@@ -17,6 +18,7 @@ int main(int argc, char** argv) {
     QApplication::setQuitOnLastWindowClosed(false);
     quillane::ui::theme::Apply(qt);
     quillane::ui::kit::InstallKeyboard(qt);
+    quillane::ui::kit::InstallAccessibility(qt);
 
     using namespace quillane;
     ui::DesktopPlatform platform(QApplication::applicationDirPath(),

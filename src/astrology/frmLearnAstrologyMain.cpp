@@ -173,6 +173,8 @@ void frmLearnAstrologyMain::ShowGlyph(Control& picture, int row) {
     glyph.descriptor = std::string(planets ? "imgPlanet " : "imgSign ") + std::to_string(row + 1);
     glyph.resource = std::string(planets ? "astrology/planet-" : "astrology/sign-") +
                      std::to_string(row) + ".svg";
+    glyph.description =
+        "Glyph of " + (planets ? mla::strPlanet[std::size_t(row)] : mla::strSign[std::size_t(row)]);
     picture.SetPicture(glyph);
 }
 

@@ -53,6 +53,11 @@ bool LoadPictureFromField(Picture& target, modDB::Recordset& recordSet,
         if (!readable)
             throw RuntimeError(481, "Invalid picture");
         target.descriptor = "card " + recordSet.Field("Id").AsString();
+        try {
+            target.description = recordSet.Field("Name").AsString();
+        } catch (const RuntimeError&) {
+            target.description.clear(); // a row set of pictures only
+        }
         target.bytes = std::move(bytes);
         return true;
     } catch (const std::exception&) {

@@ -17,6 +17,8 @@ struct Picture {
     // The complete picture file, for pictures loaded from data; null otherwise.
     std::shared_ptr<const std::vector<unsigned char>> bytes;
     bool rot180 = false;
+    // What the picture shows, in words, for those who can't see it.
+    std::string description;
 
     bool empty() const { return descriptor.empty(); }
     // The text that the driver shows: the descriptor, " rot180" when turned.

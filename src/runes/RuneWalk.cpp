@@ -16,6 +16,8 @@ Picture Img(long entry) {
     Picture picture;
     picture.descriptor = "IMG " + std::to_string(entry);
     picture.resource = "runes/" + ImgFileName(int(entry));
+    // "09 Hagalaz" is the stone Hagalaz.
+    picture.description = "Rune stone " + std::string(kImgKey[std::size_t(entry - 1)].substr(3));
     return picture;
 }
 

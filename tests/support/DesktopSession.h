@@ -7,6 +7,7 @@
 #include "drive/DrivePlatform.h"
 #include "shell/StartUp.h"
 #include "ui/binding/FormHost.h"
+#include "ui/kit/Accessibility.h"
 #include "ui/kit/Keyboard.h"
 #include "ui/kit/Theme.h"
 
@@ -24,6 +25,7 @@ inline void EnsureQApplication() {
         auto* app = new QApplication(argc, argv);
         ui::theme::Apply(*app);
         ui::kit::InstallKeyboard(*app);
+        ui::kit::InstallAccessibility(*app);
     }
 }
 

@@ -83,9 +83,11 @@ QWidget* ChoicePanel() {
         option->setMinimumWidth(140);
         grid->addWidget(option, r, 0);
         auto* main = DropDown(rows[r][1]);
+        main->setAccessibleName(r == 0 ? "What to learn" : "What to be tested on");
         main->setMinimumWidth(190);
         grid->addWidget(main, r, 1);
         auto* sub = DropDown(rows[r][2]);
+        sub->setAccessibleName(r == 0 ? "Which part to learn" : "Which part to be tested on");
         sub->setMinimumWidth(250);
         sub->setMaxVisibleItems(16);
         grid->addWidget(sub, r, 2);
@@ -163,11 +165,13 @@ QWidget* QuestionPanel(Form& form) {
     choices->setHorizontalSpacing(10);
     choices->setVerticalSpacing(6);
     for (int c = 0; c <= 4; ++c) {
-        choices->addWidget(new kit::BareOption(QString("optAnswer_Choice(%1)").arg(c)), c, 0,
-                           Qt::AlignTop);
+        choices->addWidget(
+            NamedByContent(new kit::BareOption(QString("optAnswer_Choice(%1)").arg(c))), c, 0,
+            Qt::AlignTop);
         const QString path = QString("txtAnswer_Choice(%1)").arg(c);
         auto* box = TextBox(path, true);
         box->setFixedHeight(50);
+        box->setAccessibleName(QString("Choice %1").arg(c + 1));
         box->viewport()->setCursor(Qt::PointingHandCursor);
         box->viewport()->installEventFilter(new ClickForwarder(form, path.toStdString(), box));
         choices->addWidget(box, c, 1);
@@ -189,6 +193,7 @@ QWidget* ReportPanel() {
     column->setContentsMargins(22, 18, 22, 16);
     column->setSpacing(12);
     auto* report = RichText("RTB");
+    report->setAccessibleName("Test report");
     report->document()->setDocumentMargin(12);
     column->addWidget(report, 1);
     auto* buttons = new QHBoxLayout;

@@ -47,6 +47,7 @@ void PictureAdapter::Show(Prop prop) {
     // A picture the window drew itself (a decoration) stays until the
     // program gives the control a picture of its own.
     const Picture& picture = control_.Picture();
+    label->setAccessibleName(QString::fromStdString(picture.description));
     if (!picture.empty())
         label->setPixmap(
             binder_.Pictures().Render(picture, label->size(), label->devicePixelRatioF()));

@@ -3,6 +3,7 @@
 #include "Binder.h"
 
 #include <QEvent>
+#include <QKeyEvent>
 #include <QLabel>
 #include <QWidget>
 
@@ -12,8 +13,13 @@ MouseForwarder::MouseForwarder(Binder& binder, Control& control, QWidget* widget
     : QObject(widget), binder_(binder), control_(control) {
     widget->installEventFilter(this);
     widget->setMouseTracking(true);
-    if (control.Click && qobject_cast<QLabel*>(widget))
+    if (control.Click && qobject_cast<QLabel*>(widget)) {
         widget->setCursor(Qt::PointingHandCursor);
+        // A label that leads somewhere is reached by Tab and pressed by
+        // Return or Space, as a link is.
+        widget->setFocusPolicy(Qt::TabFocus);
+        widget->setAccessibleDescription("Link");
+    }
 }
 
 bool MouseForwarder::eventFilter(QObject* watched, QEvent* event) {
@@ -29,6 +35,15 @@ bool MouseForwarder::eventFilter(QObject* watched, QEvent* event) {
     case QEvent::MouseButtonPress:
         event->accept();
         return true;
+    case QEvent::KeyPress: {
+        const int key = static_cast<QKeyEvent*>(event)->key();
+        if (!control_.Click ||
+            (key != Qt::Key_Return && key != Qt::Key_Enter && key != Qt::Key_Space))
+            return QObject::eventFilter(watched, event);
+        binder_.Act([c] { c->UserClick(); });
+        event->accept();
+        return true;
+    }
     case QEvent::MouseMove:
         binder_.Act([c] { c->UserHover(); });
         event->accept();

@@ -53,6 +53,12 @@ QWidget* Panel(const QString& path);
 QGroupBox* Frame(const QString& path);
 // Panels stacked in one place; the binder keeps the front one current.
 QStackedWidget* Stack(std::initializer_list<QWidget*> panels);
+// Marks a control whose name is the text the program gives it with each
+// question (an answer's option), and which has none before.
+template <class W> W* NamedByContent(W* widget) {
+    widget->setProperty("namedByContent", true);
+    return widget;
+}
 // A row of buttons: some at the left, the rest at the right.
 QHBoxLayout* ButtonRow(std::initializer_list<QWidget*> left, std::initializer_list<QWidget*> right);
 // A horizontal rule.

@@ -33,12 +33,16 @@ QLabel* Text(const QString& path, const char* role) {
 
 using kit::ButtonRow;
 
-// A pair of options, indented below their prompt.
-void TwoChoices(QVBoxLayout* content, const char* name) {
+// A pair of options, indented below their prompt; some get their captions
+// only when their panel comes to the front.
+void TwoChoices(QVBoxLayout* content, const char* name, bool byContent = false) {
     auto* choices = new QVBoxLayout;
     choices->setContentsMargins(24, 4, 0, 4);
-    choices->addWidget(kit::Option(kit::Path(name, 0)));
-    choices->addWidget(kit::Option(kit::Path(name, 1)));
+    for (int i = 0; i <= 1; ++i) {
+        auto* option = kit::Option(kit::Path(name, i));
+        option->setProperty("namedByContent", byContent);
+        choices->addWidget(option);
+    }
     content->addLayout(choices);
     content->addStretch();
 }
@@ -61,7 +65,7 @@ QWidget* OptionsPanel() {
     QVBoxLayout* c = nullptr;
     QWidget* panel = CaptionedPanel(1, c);
     c->addWidget(Text("lblCaption(4)", "prompt"));
-    TwoChoices(c, "optOption");
+    TwoChoices(c, "optOption", true);
     c->addLayout(ButtonRow({kit::Button("cmdBack2")}, {Primary("cmdNext2")}));
     return panel;
 }
@@ -73,6 +77,7 @@ QWidget* StudyPanel() {
     QWidget* panel = CaptionedPanel(2, c);
     c->addWidget(kit::Label("lblLearnSubject", "caption"));
     auto* text = kit::RichText("RTBLearn");
+    text->setAccessibleName("Study text");
     QFont mono("DejaVu Sans Mono");
     mono.setStyleHint(QFont::Monospace);
     mono.setFixedPitch(true);
@@ -117,8 +122,12 @@ QWidget* QuestionPanel(Form& form) {
     choices->setHorizontalSpacing(8);
     choices->setVerticalSpacing(8);
     for (int i = 0; i <= 4; ++i) {
-        auto* option = kit::Option(QString("optChoice(%1)").arg(i));
+        auto* option = kit::NamedByContent(kit::Option(QString("optChoice(%1)").arg(i)));
         auto* text = kit::TextBox(QString("txtOption(%1)").arg(i), true);
+        text->setAccessibleName(QString("Choice %1").arg(i + 1));
+        // The option's own caption is empty: it is known by its text.
+        QObject::connect(text, &QPlainTextEdit::textChanged, option,
+                         [option, text] { option->setAccessibleName(text->toPlainText()); });
         text->setFixedHeight(54);
         text->setLineWrapMode(QPlainTextEdit::WidgetWidth);
         text->viewport()->setCursor(Qt::PointingHandCursor);
@@ -146,6 +155,7 @@ QWidget* ResultPanel() {
     QVBoxLayout* c = nullptr;
     QWidget* panel = CaptionedPanel(5, c);
     auto* report = kit::RichText("RTBTestResult");
+    report->setAccessibleName("Test report");
     QFont font = report->font();
     font.setPointSizeF(10);
     report->document()->setDefaultFont(font);

@@ -43,7 +43,7 @@ QWidget* BuildRunesMeaningTestWindow(Form& form) {
         frame->setProperty("role", "choice");
         auto* inside = new QVBoxLayout(frame);
         inside->setContentsMargins(8, 6, 8, 6);
-        inside->addWidget(new WrapCheck(QString("chkMeaning(%1)").arg(i)));
+        inside->addWidget(NamedByContent(new WrapCheck(QString("chkMeaning(%1)").arg(i))));
         list->addWidget(frame);
     }
     list->addStretch();

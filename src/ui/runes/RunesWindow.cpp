@@ -67,10 +67,13 @@ QWidget* MemorizePanel() {
     auto* grid = new QGridLayout;
     grid->setHorizontalSpacing(14);
     for (int i = 0; i <= 2; ++i) {
-        grid->addWidget(Label(Path("lblMeaningCaption", i), "caption"), 0, i);
+        auto* caption = Label(Path("lblMeaningCaption", i), "caption");
+        grid->addWidget(caption, 0, i);
         grid->addWidget(Picture(Path("picStone", i), QSize(113, 151), "stone"), 1, i,
                         Qt::AlignHCenter);
-        grid->addWidget(Box(Path("txtMeaning", i), 100), 2, i);
+        auto* meaning = Box(Path("txtMeaning", i), 100);
+        caption->setBuddy(meaning);
+        grid->addWidget(meaning, 2, i);
         grid->setColumnStretch(i, 1);
     }
     column->addLayout(grid, 1);
@@ -79,6 +82,7 @@ QWidget* MemorizePanel() {
     names->addWidget(Label("lblMeaningCaption(4)", "caption"), 0, 1);
     for (int i = 0; i <= 1; ++i) {
         auto* box = Box(i == 0 ? "txtKeywords" : "txtAlternativeNames", 48);
+        box->setAccessibleName(i == 0 ? "Keywords" : "Also known as");
         box->setMaximumHeight(48);
         names->addWidget(box, 1, i);
     }
@@ -148,7 +152,9 @@ QWidget* GoalsPanel() {
     for (int goal = 1; goal <= 2; ++goal) {
         const QString n = QString::number(goal);
         column->addWidget(Check("chkGoal" + n));
-        column->addWidget(Box("txtGoal" + n, 70), 1);
+        auto* note = Box("txtGoal" + n, 70);
+        note->setAccessibleName("Goal note " + n);
+        column->addWidget(note, 1);
         auto* row = new QHBoxLayout;
         row->addStretch();
         row->addWidget(Button("cmdGoal" + n));
@@ -173,7 +179,7 @@ QWidget* KeywordPanel() {
     auto* choices = new QVBoxLayout;
     choices->setSpacing(10);
     for (int i = 0; i <= 7; ++i)
-        choices->addWidget(Check(Path("chkKeywords", i)));
+        choices->addWidget(NamedByContent(Check(Path("chkKeywords", i))));
     choices->addStretch();
     row->addLayout(choices, 1);
     column->addLayout(row, 1);
@@ -189,6 +195,7 @@ QWidget* ResultPanel() {
     auto* column = new QVBoxLayout(panel);
     column->addWidget(Label("Label1", "heading"));
     auto* result = Box("txtResult", 200);
+    result->setAccessibleName("Test report");
     // The report's columns line up only in a fixed-pitch font.
     result->setFont(QFontDatabase::systemFont(QFontDatabase::FixedFont));
     result->setLineWrapMode(QPlainTextEdit::NoWrap);

@@ -32,8 +32,12 @@ QWidget* DatePicker(const QString& path) {
     auto* row = new QHBoxLayout(picker);
     row->setContentsMargins(0, 0, 0, 0);
     row->setSpacing(4);
+    const QString which = path.contains("Starting") ? "Starting" : "Ending";
     for (const char* list : {"cboDate", "cboMonth", "cboYear"}) {
         auto* combo = DropDown(list);
+        combo->setAccessibleName(which + (QString(list) == "cboDate"    ? " day"
+                                          : QString(list) == "cboMonth" ? " month"
+                                                                        : " year"));
         combo->setMaxVisibleItems(12);
         row->addWidget(combo, QString(list) == "cboMonth" ? 2 : 1);
     }
@@ -75,9 +79,11 @@ QWidget* GoalsPage() {
     goal->setVerticalSpacing(6);
     goal->addWidget(Label("Label15", "caption"), 0, 0);
     auto* name = Named(new QLineEdit, "txtGoalName");
+    name->setAccessibleName("Name of goal");
     goal->addWidget(name, 0, 1, 1, 3);
     goal->addWidget(Label("Label16", "caption"), 1, 0, Qt::AlignTop);
     auto* description = TextBox("txtGoalDesc");
+    description->setAccessibleName("Description of goal");
     description->setMaximumHeight(90);
     goal->addWidget(description, 1, 1, 1, 3);
     goal->addWidget(Label("Label12", "caption"), 2, 0);
@@ -91,7 +97,9 @@ QWidget* GoalsPage() {
     figures->addWidget(Label("Label1"), 1, 0);
     figures->addWidget(Label("lblDaysRemaining", "caption", false), 1, 1);
     figures->addWidget(Label("Label13"), 2, 0);
-    figures->addWidget(DropDown("Combo3"), 2, 1);
+    auto* percent = DropDown("Combo3");
+    percent->setAccessibleName("Achieved percentage of goal");
+    figures->addWidget(percent, 2, 1);
     figures->setColumnStretch(0, 1);
     goal->addWidget(timer, 2, 2, 2, 2);
     goal->addWidget(Label("lblInfo", "caption", false), 4, 0, 1, 3);
@@ -164,14 +172,17 @@ QWidget* MemorizePage() {
     row->addWidget(Picture("picCardMemorizeReversed", kCardSize, "stone"), 0, Qt::AlignTop);
     auto* texts = new QGridLayout;
     texts->setVerticalSpacing(4);
-    texts->addWidget(Label("Label9", "caption"), 0, 0);
-    texts->addWidget(TextBox("txtNormalMeaning", true), 1, 0);
-    texts->addWidget(Label("Label17", "caption"), 0, 1);
-    texts->addWidget(TextBox("txtReverseMeaning", true), 1, 1);
-    texts->addWidget(Label("Label8", "caption"), 2, 0, 1, 2);
+    auto labelled = [texts](const char* label, QWidget* box, int row, int col, int span) {
+        auto* caption = Label(label, "caption");
+        caption->setBuddy(box);
+        texts->addWidget(caption, row, col, 1, span);
+        texts->addWidget(box, row + 1, col, 1, span);
+    };
+    labelled("Label9", TextBox("txtNormalMeaning", true), 0, 0, 1);
+    labelled("Label17", TextBox("txtReverseMeaning", true), 0, 1, 1);
     auto* keywords = TextBox("txtKeywords", true);
     keywords->setFixedHeight(52);
-    texts->addWidget(keywords, 3, 0, 1, 2);
+    labelled("Label8", keywords, 2, 0, 2);
     row->addLayout(texts, 1);
     column->addLayout(row, 1);
     column->addLayout(
@@ -192,7 +203,7 @@ QWidget* DescriptionChoices() {
         shape->setObjectName(Path("Shape1", i));
         auto* inside = new QVBoxLayout(shape);
         inside->setContentsMargins(8, 5, 8, 5);
-        inside->addWidget(new WrapOption(Path("optAnswer", i)));
+        inside->addWidget(NamedByContent(new WrapOption(Path("optAnswer", i))));
         choices->addWidget(shape);
     }
     choices->addStretch();
@@ -215,7 +226,7 @@ QWidget* KeywordChoices() {
     grid->setHorizontalSpacing(18);
     grid->setVerticalSpacing(10);
     for (int i = 0; i <= 19; ++i)
-        grid->addWidget(Check(Path("chkKeywords", i)), i % 5, i / 5);
+        grid->addWidget(NamedByContent(Check(Path("chkKeywords", i))), i % 5, i / 5);
     column->addLayout(grid);
     column->addStretch();
     return container;
@@ -248,6 +259,7 @@ QWidget* ResultsPage() {
     QWidget* page = Page(column);
     column->addWidget(Label("lblResultInfo", "caption"));
     auto* report = TextBox("txtResult");
+    report->setAccessibleName("Test report");
     // The report's columns line up only in a fixed-pitch font.
     report->setFont(QFontDatabase::systemFont(QFontDatabase::FixedFont));
     report->setLineWrapMode(QPlainTextEdit::NoWrap);
