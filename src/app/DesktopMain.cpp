@@ -4,17 +4,29 @@
 #include "ui/binding/FormHost.h"
 #include "ui/kit/Accessibility.h"
 #include "ui/kit/Keyboard.h"
+#include "ui/kit/ProgramIcon.h"
 #include "ui/kit/Theme.h"
 #include "ui/shell/QtServices.h"
 
 #include <QApplication>
 #include <QFileInfo>
 #include <QIcon>
+#include <cstdio>
 
 int main(int argc, char** argv) {
+#if defined(Q_OS_LINUX)
+    // Without a display Qt would abort with advice about reinstalling.
+    if (qEnvironmentVariableIsEmpty("DISPLAY") && qEnvironmentVariableIsEmpty("WAYLAND_DISPLAY") &&
+        qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM")) {
+        std::fputs("quillane: there is no display to show its windows on "
+                   "(neither DISPLAY nor WAYLAND_DISPLAY is set).\n",
+                   stderr);
+        return 1;
+    }
+#endif
     QApplication qt(argc, argv);
     QApplication::setApplicationName("Quillane");
-    QApplication::setWindowIcon(QIcon(":/icons/quillane.svg"));
+    QApplication::setWindowIcon(quillane::ui::kit::ProgramIcon());
     QApplication::setQuitOnLastWindowClosed(false);
     quillane::ui::theme::Apply(qt);
     quillane::ui::kit::InstallKeyboard(qt);
