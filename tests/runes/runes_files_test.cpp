@@ -1,7 +1,9 @@
-// The goal notes' file format: encodings both ways, lines, and replacement
-// that leaves the old file whole when it fails.
+// The goal notes' file format: encodings both ways, lines, replacement that
+// leaves the old file whole when it fails, and a long note read in one go.
+#include "common/Application.h"
 #include "common/Errors.h"
 #include "common/TextFiles.h"
+#include "runes/RegisterRunes.h"
 #include "runes/ResumeNext.h"
 
 #include "DriveSession.h"
@@ -10,6 +12,7 @@
 
 #include <fstream>
 #include <iterator>
+#include <sys/stat.h>
 
 namespace {
 
@@ -83,11 +86,67 @@ TEST(GoalFile, ReplacingWritesTheBytesAndFailsWithoutHarm) {
     const auto blocked = dir.Path() / "Goal1.txt";
     std::filesystem::create_directory(blocked);
     EXPECT_THROW(ReadLines(blocked.string()), RuntimeError);
+    const auto pipe = dir.Path() / "pipe.txt";
+    ASSERT_EQ(::mkfifo(pipe.c_str(), 0600), 0);
+    EXPECT_THROW(ReadLines(pipe.string()), RuntimeError) << "a pipe is not read: it may never end";
     EXPECT_THROW(ReplaceFile(blocked.string(), "x\r\n"), RuntimeError);
     EXPECT_TRUE(std::filesystem::is_directory(blocked));
     EXPECT_FALSE(std::filesystem::exists(blocked.string() + ".saving"));
     EXPECT_THROW(ReplaceFile((dir.Path() / "missing" / "Goal1.txt").string(), "x"), RuntimeError);
     EXPECT_THROW(ReadLines((dir.Path() / "none.txt").string()), RuntimeError);
+}
+
+// The Runes window in process, over a program folder of the test's, with a
+// view that counts how often the first goal's box is told of a new text.
+class NoteView : public IFormHost, public IProgramFolder {
+public:
+    NoteView() {
+        Services services;
+        services.folder = this;
+        app = std::make_unique<Application>(services);
+        RegisterRunes(*app);
+        app->SetHost(this);
+    }
+    ~NoteView() override { app->SetHost(nullptr); }
+    std::string OpenWindow() {
+        app->Dispatch([&] { app->Load("frmLearnRunesMain"); });
+        return app->Find("frmLearnRunesMain")->Find("txtGoal1")->Text();
+    }
+
+    void FormLoaded(Form& form) override {
+        form.SetObserver(
+            [this](Control& c, Prop p) { texts += c.Name() == "txtGoal1" && p == Prop::Text; });
+    }
+    void FormShown(Form&) override {}
+    void FormUnloaded(Form&) override {}
+    void RunModal(Form&) override {}
+    void PopupMenu(Form&, Control&, Control*) override {}
+    void ProgramEnded() override {}
+    std::string ProgramDir() override { return dir.Str(); }
+    std::string FilesDir() override { return dir.Str(); }
+    std::string ExeName() override { return "quillane"; }
+    std::string CommandLine() override { return {}; }
+
+    quillane::testing::ScratchDir dir;
+    std::unique_ptr<Application> app;
+    int texts = 0;
+};
+
+TEST(GoalFile, ALongNoteReachesItsBoxWholeAndInOneGo) {
+    NoteView view;
+    // A note of some 400 KB: lines of every length, with every kind of line
+    // end, some of them empty, in Windows-1252.
+    std::string bytes, expected;
+    const char* const ends[] = {"\r\n", "\n", "\r", "\r\n\r\n"};
+    for (int i = 0; i < 6000; ++i) {
+        const std::string line = std::string(std::size_t(i % 97), 'a' + char(i % 26)) + "\xE9";
+        bytes += line + ends[i % 4];
+        expected += line.substr(0, line.size() - 1) + "\xC3\xA9\r\n" + (i % 4 == 3 ? "\r\n" : "");
+    }
+    Spit(view.dir.Path() / "Goal1.txt", bytes + "last line, no line end");
+    expected += "last line, no line end\r\n";
+    EXPECT_EQ(view.OpenWindow(), expected);
+    EXPECT_EQ(view.texts, 1) << "each time the box is told, it lays the whole text out again";
 }
 
 TEST(ResumeNext, SkipsAFailingStatementAndGoesOn) {
