@@ -20,6 +20,8 @@ constexpr std::array<char32_t, 32> kHigh = {
     0x2039, 0x0152, 0x008D, 0x017D, 0x008F, 0x0090, 0x2018, 0x2019, 0x201C, 0x201D, 0x2022,
     0x2013, 0x2014, 0x02DC, 0x2122, 0x0161, 0x203A, 0x0153, 0x009D, 0x017E, 0x0178};
 
+const std::string kByteOrderMark = "\xEF\xBB\xBF";
+
 // Walks valid UTF-8 and hands each code point to emit; false as soon as the
 // bytes are not valid UTF-8.
 template <class Emit> bool WalkUtf8(const std::string& bytes, Emit emit) {
@@ -125,14 +127,18 @@ std::optional<std::string> Utf8ToCp1252(const std::string& text) {
 
 std::string DecodeFileText(const std::string& bytes) {
     if (IsValidUtf8(bytes))
-        return bytes.rfind("\xEF\xBB\xBF", 0) == 0 ? bytes.substr(3) : bytes;
+        return bytes.rfind(kByteOrderMark, 0) == 0 ? bytes.substr(3) : bytes;
     return Cp1252ToUtf8(bytes);
 }
 
 std::string EncodeFileText(const std::string& text) {
-    if (auto narrow = Utf8ToCp1252(text))
+    // Windows-1252 unless those bytes happen to be UTF-8 as well, which they
+    // would be read as ("\xC9\x85" is "É…" there, but "Ʌ" in UTF-8).
+    if (auto narrow = Utf8ToCp1252(text); narrow && (*narrow == text || !IsValidUtf8(*narrow)))
         return *narrow;
-    return text;
+    // A text that begins with a byte order mark of its own keeps it behind one
+    // more, since reading drops the first.
+    return text.rfind(kByteOrderMark, 0) == 0 ? kByteOrderMark + text : text;
 }
 
 bool FileExists(const std::string& path) {

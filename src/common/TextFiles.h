@@ -5,7 +5,8 @@
 // Reading: the bytes are taken as UTF-8 when they are valid UTF-8 (a leading
 // byte order mark is dropped), and as Windows-1252 otherwise, so that any
 // bytes at all give some text. Writing: Windows-1252 when every character of
-// the text has a code there, UTF-8 otherwise, so that nothing typed is lost.
+// the text has a code there and those bytes are not UTF-8 as well, UTF-8
+// otherwise, so that a text reads back exactly as it was typed.
 //
 // A file that cannot be opened, read or written raises a run-time error.
 #include <optional>

@@ -45,6 +45,25 @@ TEST(GoalEncoding, TextsRoundTripThroughTheirFileBytes) {
     }
 }
 
+TEST(GoalEncoding, EveryTextReadsBackAsTyped) {
+    // Every pair of the characters beyond ASCII that Windows-1252 has, after a
+    // letter: the single-byte form of some pairs is valid UTF-8 as well.
+    std::vector<std::string> high;
+    for (int b = 0x80; b <= 0xFF; ++b)
+        high.push_back(Cp1252ToUtf8(std::string(1, char(b))));
+    std::vector<std::string> texts{"Lunch at the CAF\xC3\x89\xE2\x80\xA6",
+                                   "\xEF\xBB\xBFtyped first", "\xEF\xBB\xBF",
+                                   "\xC3\xAF\xC2\xBB\xC2\xBF\r\n", ""};
+    for (const auto& a : high)
+        for (const auto& b : high)
+            texts.push_back("x" + a + b);
+    int changed = 0;
+    for (const auto& text : texts)
+        if (DecodeFileText(EncodeFileText(text)) != text && ++changed <= 5)
+            ADD_FAILURE() << "comes back changed: " << text;
+    EXPECT_EQ(changed, 0);
+}
+
 TEST(GoalEncoding, AnyBytesGiveText) {
     // Not valid UTF-8: every byte is taken as Windows-1252.
     const std::string bytes("\xFF\xFE\x00x\x81\xC3", 6);
