@@ -4,9 +4,12 @@
 
 #include <algorithm>
 #include <array>
+#include <cerrno>
 #include <cstdint>
+#include <cstdio>
 #include <filesystem>
 #include <fstream>
+#include <random>
 #include <sstream>
 
 namespace quillane {
@@ -175,26 +178,73 @@ std::vector<std::string> ReadLines(const std::string& path) {
     return lines;
 }
 
-void ReplaceFile(const std::string& path, const std::string& text) {
-    const std::string temporary = path + ".saving";
-    const std::string bytes = EncodeFileText(text);
-    {
-        std::ofstream out(temporary, std::ios::binary | std::ios::trunc);
-        if (!out)
-            throw RuntimeError(75, "Path/File access error");
-        out.write(bytes.data(), std::streamsize(bytes.size()));
-        out.close();
-        if (!out) {
-            std::error_code ec;
-            std::filesystem::remove(temporary, ec);
-            throw RuntimeError(57, "Device I/O error");
-        }
+namespace {
+
+namespace fs = std::filesystem;
+
+// Whether the program may change the file: it has a write permission at all
+// (a file marked read-only for everyone stays so, even for an
+// administrator), and it opens for writing.
+bool MayChange(const fs::path& file, fs::perms perms) {
+    constexpr auto anyWrite =
+        fs::perms::owner_write | fs::perms::group_write | fs::perms::others_write;
+    if ((perms & anyWrite) == fs::perms::none)
+        return false;
+    std::FILE* probe = std::fopen(file.string().c_str(), "r+b");
+    if (!probe)
+        return false;
+    std::fclose(probe);
+    return true;
+}
+
+// A new file beside the target, of a name nobody else has: it is made here
+// and now ("x": never a file or a link that is already there).
+std::FILE* CreateBeside(const fs::path& target, fs::path& made) {
+    std::random_device entropy;
+    for (int attempt = 0; attempt < 100; ++attempt) {
+        char suffix[16];
+        std::snprintf(suffix, sizeof suffix, "%08x", unsigned(entropy()));
+        made = target.parent_path() / ("." + target.filename().string() + "-" + suffix);
+        if (std::FILE* file = std::fopen(made.string().c_str(), "wbx"))
+            return file;
+        if (errno != EEXIST)
+            break;
     }
+    throw RuntimeError(75, "Path/File access error");
+}
+
+} // namespace
+
+void ReplaceFile(const std::string& path, const std::string& text) {
     std::error_code ec;
-    std::filesystem::rename(temporary, path, ec);
+    // Through a link, the file it names is replaced and the link stays.
+    fs::path target = path;
+    if (fs::is_symlink(fs::symlink_status(target, ec)))
+        if (fs::path named = fs::canonical(target, ec); !ec)
+            target = named;
+    const fs::file_status status = fs::status(target, ec);
+    const bool exists = fs::exists(status);
+    if (exists && !fs::is_regular_file(status))
+        throw RuntimeError(75, "Path/File access error");
+    if (exists && !MayChange(target, status.permissions()))
+        throw RuntimeError(70, "Permission denied");
+
+    const std::string bytes = EncodeFileText(text);
+    fs::path temporary;
+    std::FILE* out = CreateBeside(target, temporary);
+    // The new file takes the old one's rights before it holds any text.
+    std::error_code rights;
+    if (exists)
+        fs::permissions(temporary, status.permissions(), rights);
+    const bool written = !rights && std::fwrite(bytes.data(), 1, bytes.size(), out) == bytes.size();
+    if (std::fclose(out) != 0 || !written) {
+        fs::remove(temporary, ec);
+        throw RuntimeError(57, "Device I/O error");
+    }
+    fs::rename(temporary, target, ec);
     if (ec) {
         std::error_code ignored;
-        std::filesystem::remove(temporary, ignored);
+        fs::remove(temporary, ignored);
         throw RuntimeError(75, "Path/File access error");
     }
 }

@@ -32,8 +32,11 @@ bool FileExists(const std::string& path);
 // carriage return and line feed, a lone carriage return or a lone line feed;
 // a last line without a line end is a line all the same.
 std::vector<std::string> ReadLines(const std::string& path);
-// Replaces the file with the text, through a temporary file beside it that is
-// renamed over it, so that a failed write leaves the old file whole.
+// Replaces the file with the text, through a new file of its own name beside
+// it that is renamed over it: a failed write leaves the old file whole, and
+// two writers never mix. The file keeps its rights; through a link, the file
+// that the link names is replaced. A file that can't be written (read-only,
+// another's, not a plain file) is left alone with a run-time error.
 void ReplaceFile(const std::string& path, const std::string& text);
 
 } // namespace quillane

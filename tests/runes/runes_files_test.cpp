@@ -10,9 +10,11 @@
 
 #include <gtest/gtest.h>
 
+#include <atomic>
 #include <fstream>
 #include <iterator>
 #include <sys/stat.h>
+#include <thread>
 
 namespace {
 
@@ -98,7 +100,6 @@ TEST(GoalFile, ReplacingWritesTheBytesAndFailsWithoutHarm) {
     const auto path = dir.Path() / "Goal2.txt";
     ReplaceFile(path.string(), "na\xC3\xAFve\r\n");
     EXPECT_EQ(Slurp(path), "na\xEFve\r\n");
-    EXPECT_FALSE(std::filesystem::exists(path.string() + ".saving"));
 
     // A folder in the file's place can be neither read nor replaced; the
     // failures are run-time errors that resume-next skips.
@@ -110,9 +111,64 @@ TEST(GoalFile, ReplacingWritesTheBytesAndFailsWithoutHarm) {
     EXPECT_THROW(ReadLines(pipe.string()), RuntimeError) << "a pipe is not read: it may never end";
     EXPECT_THROW(ReplaceFile(blocked.string(), "x\r\n"), RuntimeError);
     EXPECT_TRUE(std::filesystem::is_directory(blocked));
-    EXPECT_FALSE(std::filesystem::exists(blocked.string() + ".saving"));
     EXPECT_THROW(ReplaceFile((dir.Path() / "missing" / "Goal1.txt").string(), "x"), RuntimeError);
     EXPECT_THROW(ReadLines((dir.Path() / "none.txt").string()), RuntimeError);
+}
+
+TEST(GoalFile, SavingChangesTheNoteAloneAndKeepsItsLinkAndRights) {
+    namespace fs = std::filesystem;
+    quillane::testing::ScratchDir dir;
+    const auto note = dir.Path() / "Goal1.txt";
+    const auto victim = dir.Path() / "victim.txt";
+    Spit(note, "old\r\n");
+    Spit(victim, "someone else's");
+    const auto mine = fs::perms::owner_read | fs::perms::owner_write;
+    fs::permissions(note, mine);
+    // A link planted where a fixed temporary name would be.
+    fs::create_symlink(victim, note.string() + ".saving");
+    ReplaceFile(note.string(), "new\r\n");
+    EXPECT_EQ(Slurp(note), "new\r\n");
+    EXPECT_EQ(Slurp(victim), "someone else's");
+    EXPECT_EQ(fs::status(note).permissions() & fs::perms::all, mine);
+    EXPECT_EQ(std::distance(fs::directory_iterator(dir.Path()), {}), 3) << "nothing left behind";
+
+    // A note that is a link: the file it names takes the text, the link stays.
+    const auto named = dir.Path() / "notes" / "mine.txt";
+    fs::create_directory(named.parent_path());
+    Spit(named, "old\r\n");
+    const auto linked = dir.Path() / "Goal2.txt";
+    fs::create_symlink(named, linked);
+    ReplaceFile(linked.string(), "through\r\n");
+    EXPECT_TRUE(fs::is_symlink(linked));
+    EXPECT_EQ(Slurp(named), "through\r\n");
+
+    // A read-only note is left as it is.
+    fs::permissions(named, fs::perms::owner_read);
+    EXPECT_THROW(ReplaceFile(linked.string(), "lost\r\n"), RuntimeError);
+    EXPECT_EQ(Slurp(named), "through\r\n");
+}
+
+TEST(GoalFile, TwoWritersNeverMixTheirTexts) {
+    quillane::testing::ScratchDir dir;
+    const std::string note = (dir.Path() / "Goal1.txt").string();
+    std::atomic<int> spoilt{0};
+    auto writer = [&](char letter) {
+        const std::string text(64 * 1024, letter);
+        for (int i = 0; i < 100; ++i) {
+            try {
+                ReplaceFile(note, text);
+                const std::string now = Slurp(note);
+                if (now != std::string(text.size(), now.empty() ? '?' : now[0]))
+                    ++spoilt;
+            } catch (const RuntimeError&) {
+                ++spoilt;
+            }
+        }
+    };
+    std::thread a(writer, 'a'), b(writer, 'b');
+    a.join();
+    b.join();
+    EXPECT_EQ(spoilt, 0) << "each save leaves one writer's whole text";
 }
 
 // The Runes window in process, over a program folder of the test's, with a
