@@ -91,6 +91,13 @@ bool IsValidUtf8(const std::string& bytes) {
     return WalkUtf8(bytes, [](char32_t) {});
 }
 
+std::optional<std::u32string> DecodeUtf8(const std::string& bytes) {
+    std::u32string points;
+    if (!WalkUtf8(bytes, [&](char32_t c) { points += c; }))
+        return std::nullopt;
+    return points;
+}
+
 std::string Cp1252ToUtf8(const std::string& bytes) {
     std::string out;
     out.reserve(bytes.size() + bytes.size() / 8);

@@ -18,6 +18,8 @@ namespace quillane {
 // Appends the UTF-8 bytes of one code point.
 void AppendUtf8(std::string& out, char32_t c);
 bool IsValidUtf8(const std::string& bytes);
+// The code points of valid UTF-8; nothing when the bytes are not valid UTF-8.
+std::optional<std::u32string> DecodeUtf8(const std::string& bytes);
 std::string Cp1252ToUtf8(const std::string& bytes);
 // Nothing when a character has no Windows-1252 code.
 std::optional<std::string> Utf8ToCp1252(const std::string& text);

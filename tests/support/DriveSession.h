@@ -68,7 +68,7 @@ inline std::vector<std::string> Drive(const std::vector<std::string>& options,
             script << c << "\n";
     }
     // A driver that hangs is stopped, and its test fails on the missing answers.
-    std::string command = "timeout 120 " + ShellQuote(drive);
+    std::string command = "timeout 90 " + ShellQuote(drive);
     for (const auto& o : options)
         command += " " + ShellQuote(o);
     // A session that names no program folder gets one of its own, with the
