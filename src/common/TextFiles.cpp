@@ -151,6 +151,21 @@ std::string EncodeFileText(const std::string& text) {
     return text.rfind(kByteOrderMark, 0) == 0 ? kByteOrderMark + text : text;
 }
 
+std::vector<std::string> SplitLines(const std::string& text) {
+    std::vector<std::string> lines;
+    std::size_t start = 0;
+    while (start < text.size()) {
+        const std::size_t end = text.find_first_of("\r\n", start);
+        if (end == std::string::npos) {
+            lines.push_back(text.substr(start));
+            break;
+        }
+        lines.push_back(text.substr(start, end - start));
+        start = end + (text.compare(end, 2, "\r\n") == 0 ? 2 : 1);
+    }
+    return lines;
+}
+
 bool FileExists(const std::string& path) {
     std::error_code ec;
     return std::filesystem::exists(path, ec);
@@ -170,19 +185,7 @@ std::vector<std::string> ReadLines(const std::string& path) {
     bytes << in.rdbuf();
     if (in.bad())
         throw RuntimeError(57, "Device I/O error");
-    const std::string text = DecodeFileText(std::move(bytes).str());
-    std::vector<std::string> lines;
-    std::size_t start = 0;
-    while (start < text.size()) {
-        const std::size_t end = text.find_first_of("\r\n", start);
-        if (end == std::string::npos) {
-            lines.push_back(text.substr(start));
-            break;
-        }
-        lines.push_back(text.substr(start, end - start));
-        start = end + (text.compare(end, 2, "\r\n") == 0 ? 2 : 1);
-    }
-    return lines;
+    return SplitLines(DecodeFileText(std::move(bytes).str()));
 }
 
 namespace {

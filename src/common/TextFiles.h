@@ -29,10 +29,13 @@ std::string DecodeFileText(const std::string& bytes);
 // The bytes the program writes for a text.
 std::string EncodeFileText(const std::string& text);
 
+// The lines of a text, without their line ends. A line ends at a carriage
+// return and line feed, a lone carriage return or a lone line feed; a last
+// line without a line end is a line all the same.
+std::vector<std::string> SplitLines(const std::string& text);
+
 bool FileExists(const std::string& path);
-// The lines of a text file, without their line ends. A line ends at a
-// carriage return and line feed, a lone carriage return or a lone line feed;
-// a last line without a line end is a line all the same.
+// The lines of a text file (SplitLines of its text).
 std::vector<std::string> ReadLines(const std::string& path);
 // Replaces the file with the text, through a new file of its own name beside
 // it that is renamed over it: a failed write leaves the old file whole, and
