@@ -9,6 +9,8 @@ packages=(
   libsqlite3-dev libgtest-dev
   fonts-dejavu-core
   xvfb xauth xdotool imagemagick poppler-utils
+  # libFuzzer: clang and its runtime libraries, of the same version
+  clang libclang-rt-dev
 )
 
 missing=()

@@ -2,6 +2,7 @@
 // user's actions from standard input, one command a line.
 #include "Composition.h"
 #include "drive/Driver.h"
+#include "drive/WholeNumber.h"
 
 #include <QCoreApplication>
 #include <QDir>
@@ -63,11 +64,9 @@ int main(int argc, char** argv) {
                 if (!options.today)
                     return Usage("--today takes YYYY-MM-DD");
             } else {
-                try {
-                    options.seed = std::stoll(v);
-                } catch (...) {
+                options.seed = quillane::drive::WholeNumber<long long>(v);
+                if (!options.seed)
                     return Usage("--seed takes a whole number");
-                }
             }
         } else {
             return Usage(("unknown option " + arg).c_str());

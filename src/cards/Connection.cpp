@@ -9,6 +9,11 @@
 #include <algorithm>
 #include <cctype>
 #include <filesystem>
+#include <optional>
+
+#if __has_include(<unistd.h>)
+#include <unistd.h>
+#endif
 
 namespace quillane::modDB {
 
@@ -37,6 +42,81 @@ Value ReadColumn(sqlite3_stmt* stmt, int column) {
     }
     default:
         return Value();
+    }
+}
+
+// How long a read waits for another program that is changing the file.
+constexpr int kBusyTimeoutMs = 1000;
+
+bool Writable(const std::filesystem::path& path) {
+    namespace fs = std::filesystem;
+    std::error_code ec;
+    const fs::perms perms = fs::status(path, ec).permissions();
+    constexpr auto anyWrite =
+        fs::perms::owner_write | fs::perms::group_write | fs::perms::others_write;
+    if (ec || (perms & anyWrite) == fs::perms::none)
+        return false;
+#if __has_include(<unistd.h>)
+    return ::access(path.c_str(), W_OK) == 0;
+#else
+    return true;
+#endif
+}
+
+// Nothing can change a file that can't be written, or whose folder can't be
+// (a change needs a journal or a log beside it). SQLite reads such a file as
+// immutable: it takes no locks and passes over a journal or a log that a
+// crashed writer left, which it could neither play back nor clear.
+bool CannotChange(const std::string& path) {
+    const std::filesystem::path file(path);
+    const std::filesystem::path folder = file.has_parent_path() ? file.parent_path() : ".";
+    return !Writable(file) || !Writable(folder);
+}
+
+// The file as an SQLite URI: read only, and immutable where it can't change.
+std::string ReadOnlyUri(const std::string& path) {
+    std::string uri = path.rfind('/', 0) == 0 ? "file://" : "file:";
+    for (char c : path)
+        uri += c == '%' ? "%25" : c == '?' ? "%3f" : c == '#' ? "%23" : std::string(1, c);
+    return uri + "?mode=ro" + (CannotChange(path) ? "&immutable=1" : "");
+}
+
+// The words for a failure that comes from the state of the file rather than
+// from the SQL text; nothing for any other.
+std::optional<std::string> WhatHappened(sqlite3* db, int rc, const std::string& path) {
+    const std::string why = db ? sqlite3_errmsg(db) : sqlite3_errstr(rc);
+    const std::string database = "The card database " + path;
+    std::error_code ec;
+    const std::string left =
+        std::filesystem::exists(path + "-wal", ec) ? path + "-wal" : path + "-journal";
+    switch (db ? sqlite3_extended_errcode(db) : rc) {
+    case SQLITE_READONLY_ROLLBACK:
+    case SQLITE_READONLY_RECOVERY:
+    case SQLITE_READONLY_CANTINIT:
+    case SQLITE_READONLY_CANTLOCK:
+        return database + " was left half-changed by a program that stopped while writing it (" +
+               left +
+               " lies beside it). Quillane only reads the database and can't finish or "
+               "undo that change; install learn.dll again.";
+    default:
+        break;
+    }
+    switch (rc & 0xFF) {
+    case SQLITE_BUSY:
+    case SQLITE_LOCKED:
+        return database + " is locked by another program that is changing it. Close that "
+                          "program and start Quillane again.";
+    case SQLITE_NOTADB:
+        return "The file " + path + " is not a card database.";
+    case SQLITE_CORRUPT:
+        return database + " is damaged: " + why + ".";
+    case SQLITE_CANTOPEN:
+    case SQLITE_PERM:
+    case SQLITE_AUTH:
+    case SQLITE_IOERR:
+        return database + " cannot be read: " + why + ".";
+    default:
+        return std::nullopt;
     }
 }
 
@@ -73,25 +153,27 @@ void Connection::Open() {
         throw FatalError(path, "The card database refused the password.");
 
     std::error_code ec;
-    if (!std::filesystem::is_regular_file(path, ec))
+    if (!std::filesystem::exists(path, ec))
         throw FatalError(path, "The card database " + path + " cannot be found.");
+    if (!std::filesystem::is_regular_file(path, ec))
+        throw FatalError(path, "The card database " + path + " is not a file.");
 
     sqlite3* db = nullptr;
-    int rc = sqlite3_open_v2(path.c_str(), &db, SQLITE_OPEN_READONLY, nullptr);
-    if (rc != SQLITE_OK) {
-        std::string why = db ? sqlite3_errmsg(db) : sqlite3_errstr(rc);
-        sqlite3_close_v2(db);
-        throw FatalError(path, "The card database " + path + " cannot be opened: " + why + ".");
-    }
+    int rc = sqlite3_open_v2(ReadOnlyUri(path).c_str(), &db, SQLITE_OPEN_READONLY | SQLITE_OPEN_URI,
+                             nullptr);
+    if (rc == SQLITE_OK)
+        rc = sqlite3_busy_timeout(db, kBusyTimeoutMs);
     // SQLite reads the file lazily; read its schema now so that a file that is
     // not a database fails here and not at the first query.
-    char* error = nullptr;
-    rc = sqlite3_exec(db, "SELECT count(*) FROM sqlite_master", nullptr, nullptr, &error);
+    if (rc == SQLITE_OK)
+        rc = sqlite3_exec(db, "SELECT count(*) FROM sqlite_master", nullptr, nullptr, nullptr);
     if (rc != SQLITE_OK) {
-        std::string why = error ? error : sqlite3_errstr(rc);
-        sqlite3_free(error);
+        const std::string what =
+            WhatHappened(db, rc, path)
+                .value_or("The card database " + path + " cannot be opened: " +
+                          (db ? sqlite3_errmsg(db) : sqlite3_errstr(rc)) + ".");
         sqlite3_close_v2(db);
-        throw FatalError(path, "The file " + path + " is not a card database: " + why + ".");
+        throw FatalError(path, what);
     }
     if (db_)
         sqlite3_close_v2(db_);
@@ -104,13 +186,17 @@ Recordset Connection::Query(const std::string& sql) const {
         throw FatalError(path_, "The card database is not open.");
     std::string text = ToSqlite(sql);
     sqlite3_stmt* stmt = nullptr;
-    int rc = sqlite3_prepare_v2(db_, text.c_str(), static_cast<int>(text.size()), &stmt, nullptr);
-    if (rc != SQLITE_OK) {
-        std::string why = sqlite3_errmsg(db_);
+    auto fail = [&](int rc) {
+        const std::string what =
+            WhatHappened(db_, rc, path_)
+                .value_or("The card database " + path_ + " failed the query \"" + sql +
+                          "\": " + sqlite3_errmsg(db_) + ".");
         sqlite3_finalize(stmt);
-        throw FatalError(path_, "The card database " + path_ + " failed the query \"" + sql +
-                                    "\": " + why + ".");
-    }
+        throw FatalError(path_, what);
+    };
+    int rc = sqlite3_prepare_v2(db_, text.c_str(), static_cast<int>(text.size()), &stmt, nullptr);
+    if (rc != SQLITE_OK)
+        fail(rc);
     int columns = sqlite3_column_count(stmt);
     std::vector<std::string> names;
     names.reserve(std::size_t(columns));
@@ -124,12 +210,8 @@ Recordset Connection::Query(const std::string& sql) const {
             row.push_back(ReadColumn(stmt, c));
         rows.push_back(std::move(row));
     }
-    if (rc != SQLITE_DONE) {
-        std::string why = sqlite3_errmsg(db_);
-        sqlite3_finalize(stmt);
-        throw FatalError(path_, "The card database " + path_ + " failed the query \"" + sql +
-                                    "\": " + why + ".");
-    }
+    if (rc != SQLITE_DONE)
+        fail(rc);
     sqlite3_finalize(stmt);
     Recordset result(std::move(names), std::move(rows));
     result.SetSource(sql);

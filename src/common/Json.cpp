@@ -7,8 +7,13 @@
 
 namespace quillane {
 
-std::string JsonQuote(const std::string& text) {
-    std::string out = "\"";
+namespace {
+
+// The text with its control characters escaped as JSON escapes them; in a
+// JSON string, the quote and the backslash too.
+std::string Escape(const std::string& text, bool quoted) {
+    std::string out;
+    out.reserve(text.size() + 2);
     for (std::size_t i = 0; i < text.size(); ++i) {
         const unsigned char c = text[i];
         // C1 control characters (U+0080 to U+009F) are invisible: escaped too.
@@ -21,10 +26,10 @@ std::string JsonQuote(const std::string& text) {
         }
         switch (c) {
         case '"':
-            out += "\\\"";
+            out += quoted ? "\\\"" : "\"";
             break;
         case '\\':
-            out += "\\\\";
+            out += quoted ? "\\\\" : "\\";
             break;
         case '\n':
             out += "\\n";
@@ -45,7 +50,17 @@ std::string JsonQuote(const std::string& text) {
             }
         }
     }
-    return out + "\"";
+    return out;
+}
+
+} // namespace
+
+std::string JsonQuote(const std::string& text) {
+    return "\"" + Escape(text, true) + "\"";
+}
+
+std::string EscapeControls(const std::string& text) {
+    return Escape(text, false);
 }
 
 const Json* Json::Find(const std::string& key) const {

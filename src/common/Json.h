@@ -61,5 +61,8 @@ private:
 
 // A JSON string literal for the text.
 std::string JsonQuote(const std::string& text);
+// The text with its control characters escaped as in a JSON string (CR as
+// \r, NUL as \u0000), so that it stays on one line.
+std::string EscapeControls(const std::string& text);
 
 } // namespace quillane

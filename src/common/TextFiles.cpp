@@ -2,11 +2,15 @@
 
 #include "Errors.h"
 
+#include <algorithm>
 #include <array>
+#include <cerrno>
 #include <cstdint>
+#include <cstdio>
 #include <filesystem>
 #include <fstream>
-#include <iterator>
+#include <random>
+#include <sstream>
 
 namespace quillane {
 
@@ -19,16 +23,20 @@ constexpr std::array<char32_t, 32> kHigh = {
     0x2039, 0x0152, 0x008D, 0x017D, 0x008F, 0x0090, 0x2018, 0x2019, 0x201C, 0x201D, 0x2022,
     0x2013, 0x2014, 0x02DC, 0x2122, 0x0161, 0x203A, 0x0153, 0x009D, 0x017E, 0x0178};
 
-// Decodes valid UTF-8 into code points; nothing when it is not valid.
-std::optional<std::u32string> DecodeUtf8(const std::string& bytes) {
-    std::u32string out;
+const std::string kByteOrderMark = "\xEF\xBB\xBF";
+
+// Walks valid UTF-8 and hands each code point to emit; false as soon as the
+// bytes are not valid UTF-8.
+template <class Emit> bool WalkUtf8(const std::string& bytes, Emit emit) {
     std::size_t i = 0;
     while (i < bytes.size()) {
         const auto b = std::uint8_t(bytes[i]);
         int extra = 0;
         char32_t c = 0;
         if (b < 0x80) {
-            c = b;
+            emit(char32_t(b));
+            ++i;
+            continue;
         } else if (b >= 0xC2 && b <= 0xDF) {
             extra = 1;
             c = b & 0x1F;
@@ -39,24 +47,24 @@ std::optional<std::u32string> DecodeUtf8(const std::string& bytes) {
             extra = 3;
             c = b & 0x07;
         } else {
-            return std::nullopt;
+            return false;
         }
         if (i + std::size_t(extra) >= bytes.size())
-            return std::nullopt; // a sequence cut short by the end
+            return false; // a sequence cut short by the end
         for (int k = 1; k <= extra; ++k) {
             const auto t = std::uint8_t(bytes[i + std::size_t(k)]);
             if ((t & 0xC0) != 0x80)
-                return std::nullopt;
+                return false;
             c = (c << 6) | (t & 0x3F);
         }
         // Overlong forms, surrogates and values beyond Unicode are not text.
         if ((extra == 2 && c < 0x800) || (extra == 3 && (c < 0x10000 || c > 0x10FFFF)) ||
             (c >= 0xD800 && c <= 0xDFFF))
-            return std::nullopt;
-        out += c;
+            return false;
+        emit(c);
         i += std::size_t(extra) + 1;
     }
-    return out;
+    return true;
 }
 
 } // namespace
@@ -80,50 +88,82 @@ void AppendUtf8(std::string& out, char32_t c) {
 }
 
 bool IsValidUtf8(const std::string& bytes) {
-    return DecodeUtf8(bytes).has_value();
+    return WalkUtf8(bytes, [](char32_t) {});
+}
+
+std::optional<std::u32string> DecodeUtf8(const std::string& bytes) {
+    std::u32string points;
+    if (!WalkUtf8(bytes, [&](char32_t c) { points += c; }))
+        return std::nullopt;
+    return points;
 }
 
 std::string Cp1252ToUtf8(const std::string& bytes) {
     std::string out;
-    for (char ch : bytes) {
-        const auto b = std::uint8_t(ch);
-        AppendUtf8(out, b >= 0x80 && b <= 0x9F ? kHigh[b - 0x80] : char32_t(b));
+    out.reserve(bytes.size() + bytes.size() / 8);
+    auto ascii = bytes.begin();
+    while (ascii != bytes.end()) {
+        // Runs of ASCII stand as they are.
+        const auto high = std::find_if(ascii, bytes.end(), [](char ch) { return ch & 0x80; });
+        out.append(ascii, high);
+        if (high == bytes.end())
+            break;
+        const auto b = std::uint8_t(*high);
+        AppendUtf8(out, b <= 0x9F ? kHigh[b - 0x80] : char32_t(b));
+        ascii = high + 1;
     }
     return out;
 }
 
 std::optional<std::string> Utf8ToCp1252(const std::string& text) {
-    auto points = DecodeUtf8(text);
-    if (!points)
-        return std::nullopt;
     std::string out;
-    for (char32_t c : *points) {
+    out.reserve(text.size());
+    bool fits = true;
+    const bool valid = WalkUtf8(text, [&](char32_t c) {
         if (c < 0x80 || (c >= 0xA0 && c <= 0xFF)) {
             out += char(c);
-            continue;
+            return;
         }
-        bool found = false;
-        for (std::size_t k = 0; k < kHigh.size() && !found; ++k)
-            if (kHigh[k] == c) {
-                out += char(0x80 + k);
-                found = true;
-            }
-        if (!found)
-            return std::nullopt;
-    }
+        const auto* high = std::find(kHigh.begin(), kHigh.end(), c);
+        if (high == kHigh.end())
+            fits = false;
+        else
+            out += char(0x80 + (high - kHigh.begin()));
+    });
+    if (!valid || !fits)
+        return std::nullopt;
     return out;
 }
 
 std::string DecodeFileText(const std::string& bytes) {
     if (IsValidUtf8(bytes))
-        return bytes.rfind("\xEF\xBB\xBF", 0) == 0 ? bytes.substr(3) : bytes;
+        return bytes.rfind(kByteOrderMark, 0) == 0 ? bytes.substr(3) : bytes;
     return Cp1252ToUtf8(bytes);
 }
 
 std::string EncodeFileText(const std::string& text) {
-    if (auto narrow = Utf8ToCp1252(text))
+    // Windows-1252 unless those bytes happen to be UTF-8 as well, which they
+    // would be read as ("\xC9\x85" is "É…" there, but "Ʌ" in UTF-8).
+    if (auto narrow = Utf8ToCp1252(text); narrow && (*narrow == text || !IsValidUtf8(*narrow)))
         return *narrow;
-    return text;
+    // A text that begins with a byte order mark of its own keeps it behind one
+    // more, since reading drops the first.
+    return text.rfind(kByteOrderMark, 0) == 0 ? kByteOrderMark + text : text;
+}
+
+std::vector<std::string> SplitLines(const std::string& text) {
+    std::vector<std::string> lines;
+    std::size_t start = 0;
+    while (start < text.size()) {
+        const std::size_t end = text.find_first_of("\r\n", start);
+        if (end == std::string::npos) {
+            lines.push_back(text.substr(start));
+            break;
+        }
+        lines.push_back(text.substr(start, end - start));
+        start = end + (text.compare(end, 2, "\r\n") == 0 ? 2 : 1);
+    }
+    return lines;
 }
 
 bool FileExists(const std::string& path) {
@@ -132,54 +172,89 @@ bool FileExists(const std::string& path) {
 }
 
 std::vector<std::string> ReadLines(const std::string& path) {
+    // Only a plain file is read: a folder can't be, and a pipe or a device
+    // might never end.
     std::error_code ec;
-    if (std::filesystem::is_directory(path, ec))
+    const auto status = std::filesystem::status(path, ec);
+    if (std::filesystem::exists(status) && !std::filesystem::is_regular_file(status))
         throw RuntimeError(75, "Path/File access error");
     std::ifstream in(path, std::ios::binary);
     if (!in)
         throw RuntimeError(53, "File not found");
-    const std::string bytes((std::istreambuf_iterator<char>(in)), std::istreambuf_iterator<char>());
+    std::ostringstream bytes;
+    bytes << in.rdbuf();
     if (in.bad())
         throw RuntimeError(57, "Device I/O error");
-    const std::string text = DecodeFileText(bytes);
-    std::vector<std::string> lines;
-    std::string line;
-    for (std::size_t i = 0; i < text.size(); ++i) {
-        const char c = text[i];
-        if (c == '\r' || c == '\n') {
-            lines.push_back(line);
-            line.clear();
-            if (c == '\r' && i + 1 < text.size() && text[i + 1] == '\n')
-                ++i;
-        } else {
-            line += c;
-        }
-    }
-    if (!line.empty())
-        lines.push_back(line);
-    return lines;
+    return SplitLines(DecodeFileText(std::move(bytes).str()));
 }
 
-void ReplaceFile(const std::string& path, const std::string& text) {
-    const std::string temporary = path + ".saving";
-    const std::string bytes = EncodeFileText(text);
-    {
-        std::ofstream out(temporary, std::ios::binary | std::ios::trunc);
-        if (!out)
-            throw RuntimeError(75, "Path/File access error");
-        out.write(bytes.data(), std::streamsize(bytes.size()));
-        out.close();
-        if (!out) {
-            std::error_code ec;
-            std::filesystem::remove(temporary, ec);
-            throw RuntimeError(57, "Device I/O error");
-        }
+namespace {
+
+namespace fs = std::filesystem;
+
+// Whether the program may change the file: it has a write permission at all
+// (a file marked read-only for everyone stays so, even for an
+// administrator), and it opens for writing.
+bool MayChange(const fs::path& file, fs::perms perms) {
+    constexpr auto anyWrite =
+        fs::perms::owner_write | fs::perms::group_write | fs::perms::others_write;
+    if ((perms & anyWrite) == fs::perms::none)
+        return false;
+    std::FILE* probe = std::fopen(file.string().c_str(), "r+b");
+    if (!probe)
+        return false;
+    std::fclose(probe);
+    return true;
+}
+
+// A new file beside the target, of a name nobody else has: it is made here
+// and now ("x": never a file or a link that is already there).
+std::FILE* CreateBeside(const fs::path& target, fs::path& made) {
+    std::random_device entropy;
+    for (int attempt = 0; attempt < 100; ++attempt) {
+        char suffix[16];
+        std::snprintf(suffix, sizeof suffix, "%08x", unsigned(entropy()));
+        made = target.parent_path() / ("." + target.filename().string() + "-" + suffix);
+        if (std::FILE* file = std::fopen(made.string().c_str(), "wbx"))
+            return file;
+        if (errno != EEXIST)
+            break;
     }
+    throw RuntimeError(75, "Path/File access error");
+}
+
+} // namespace
+
+void ReplaceFile(const std::string& path, const std::string& text) {
     std::error_code ec;
-    std::filesystem::rename(temporary, path, ec);
+    // Through a link, the file it names is replaced and the link stays.
+    fs::path target = path;
+    if (fs::is_symlink(fs::symlink_status(target, ec)))
+        if (fs::path named = fs::canonical(target, ec); !ec)
+            target = named;
+    const fs::file_status status = fs::status(target, ec);
+    const bool exists = fs::exists(status);
+    if (exists && !fs::is_regular_file(status))
+        throw RuntimeError(75, "Path/File access error");
+    if (exists && !MayChange(target, status.permissions()))
+        throw RuntimeError(70, "Permission denied");
+
+    const std::string bytes = EncodeFileText(text);
+    fs::path temporary;
+    std::FILE* out = CreateBeside(target, temporary);
+    // The new file takes the old one's rights before it holds any text.
+    std::error_code rights;
+    if (exists)
+        fs::permissions(temporary, status.permissions(), rights);
+    const bool written = !rights && std::fwrite(bytes.data(), 1, bytes.size(), out) == bytes.size();
+    if (std::fclose(out) != 0 || !written) {
+        fs::remove(temporary, ec);
+        throw RuntimeError(57, "Device I/O error");
+    }
+    fs::rename(temporary, target, ec);
     if (ec) {
         std::error_code ignored;
-        std::filesystem::remove(temporary, ignored);
+        fs::remove(temporary, ignored);
         throw RuntimeError(75, "Path/File access error");
     }
 }

@@ -1,11 +1,13 @@
 #include "Driver.h"
 
 #include "Inspect.h"
+#include "WholeNumber.h"
 #include "common/Errors.h"
 #include "common/ListView.h"
 #include "common/TabStrip.h"
 #include "shell/StartUp.h"
 
+#include <algorithm>
 #include <cstdint>
 
 #include <QString>
@@ -27,8 +29,10 @@ std::string FromStoreBytes(const std::string& bytes) {
     return QString::fromLatin1(bytes.data(), qsizetype(bytes.size())).toUtf8().toStdString();
 }
 
+// An error answer repeats what it was given; its control characters are
+// escaped, so that it stays one whole line.
 std::string Error(const std::string& message) {
-    return "error: " + message;
+    return "error: " + EscapeControls(message);
 }
 
 // "frmX.a.b(2).Caption" -> {"frmX", "a", "b(2)", "Caption"}
@@ -246,11 +250,7 @@ std::optional<int> ItemNumber(const std::string& part) {
     const std::string head = "ListItems(";
     if (part.rfind(head, 0) != 0 || part.back() != ')')
         return std::nullopt;
-    try {
-        return std::stoi(part.substr(head.size(), part.size() - head.size() - 1));
-    } catch (...) {
-        return std::nullopt;
-    }
+    return WholeNumber(std::string_view(part).substr(head.size(), part.size() - head.size() - 1));
 }
 
 std::optional<bool> Flag(const std::string& value) {
@@ -272,8 +272,15 @@ Driver::Target Driver::Resolve(const std::vector<std::string>& parts, std::size_
         return t;
     }
     // The longest leading run of names that is a control; the rest is the
-    // property or the item.
-    for (std::size_t k = parts.size() - tail; k >= 2; --k)
+    // property or the item. A control's path has a name or two
+    // ("dtpDay.cboDay"), and only that many are tried: a long path costs no
+    // more than reading it.
+    std::size_t names = 1;
+    for (const auto& c : t.form->Controls()) {
+        const std::string path = c->Path();
+        names = std::max(names, 1 + std::size_t(std::count(path.begin(), path.end(), '.')));
+    }
+    for (std::size_t k = std::min(parts.size() - tail, 1 + names); k >= 2; --k)
         if (Control* c = t.form->Find(Join(parts, 1, k))) {
             t.control = c;
             t.rest.assign(parts.begin() + std::ptrdiff_t(k), parts.end());
@@ -367,15 +374,10 @@ std::string Driver::Set(const std::string& path, const std::string& value) {
         return "ok";
     }
     if (property == "ListIndex" && c->Kind() == ControlKind::ComboBox) {
-        int index = 0;
-        try {
-            index = std::stoi(value);
-        } catch (...) {
+        const auto index = WholeNumber(value);
+        if (!index || *index < 0 || *index >= c->ListCount())
             return Error("bad value: " + value);
-        }
-        if (index < 0 || index >= c->ListCount())
-            return Error("bad value: " + value);
-        app_->Dispatch([&] { c->UserPick(index); });
+        app_->Dispatch([&] { c->UserPick(*index); });
         return "ok";
     }
     if (property == "Value" && c->Kind() == ControlKind::CheckBox) {
@@ -394,11 +396,7 @@ std::string Driver::Set(const std::string& path, const std::string& value) {
         return "ok";
     }
     if (auto* tabs = dynamic_cast<TabStrip*>(c); tabs && property == "Tab") {
-        int tab = -1;
-        try {
-            tab = std::stoi(value);
-        } catch (...) {
-        }
+        const int tab = WholeNumber(value).value_or(-1);
         if (tab < 0 || tab >= tabs->Tabs())
             return Error("bad value: " + value);
         if (!tabs->TabEnabled(tab))
@@ -425,14 +423,11 @@ std::string Driver::Set(const std::string& path, const std::string& value) {
 
 std::string Driver::Tray(const std::vector<std::string>& args, bool menu) {
     if (!menu) {
-        int message = 0;
-        try {
-            message = std::stoi(args[0]);
-        } catch (...) {
+        const auto message = WholeNumber(args[0]);
+        if (!message)
             return Error("bad value: " + args[0]);
-        }
         app_->ClosePopup();
-        app_->Dispatch([&] { platform_.tray.Mouse(message); });
+        app_->Dispatch([&] { platform_.tray.Mouse(*message); });
         const auto& popup = app_->OpenPopup();
         if (!popup)
             return "null";

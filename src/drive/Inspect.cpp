@@ -1,5 +1,7 @@
 #include "Inspect.h"
 
+#include "WholeNumber.h"
+
 #include "common/ListView.h"
 #include "common/TabStrip.h"
 #include "common/UserControl.h"
@@ -51,11 +53,8 @@ std::vector<std::string> PropertiesOf(ControlKind kind) {
 std::optional<int> Indexed(const std::string& property, const std::string& name) {
     if (property.rfind(name + "(", 0) != 0 || property.back() != ')')
         return std::nullopt;
-    try {
-        return std::stoi(property.substr(name.size() + 1));
-    } catch (...) {
-        return std::nullopt;
-    }
+    return WholeNumber(
+        std::string_view(property).substr(name.size() + 1, property.size() - name.size() - 2));
 }
 
 std::optional<Json> TabProperty(const TabStrip& tabs, const std::string& p) {

@@ -9,19 +9,88 @@
 #include <QStandardPaths>
 #include <QTemporaryFile>
 
+#ifdef Q_OS_UNIX
+#include <unistd.h>
+#endif
+
 namespace quillane {
 
-LockFileInstance::LockFileInstance(const QString& program) {
-    QString dir = QStandardPaths::writableLocation(QStandardPaths::RuntimeLocation);
-    if (dir.isEmpty())
-        dir = QDir::tempPath();
-    path_ = dir + "/" + program + ".lock";
+namespace {
+
+// How long a lock that can't be read is given to be written, as a starting
+// instance writes its own just after making it.
+constexpr int kLockBeingWrittenMs = 100;
+
+// A folder of the user's alone: the user owns it and nobody else may write
+// in it.
+bool IsUsersOwn(const QString& folder) {
+    const QFileInfo info(folder);
+    if (!info.isDir())
+        return false;
+#ifdef Q_OS_UNIX
+    if (info.ownerId() != ::geteuid())
+        return false;
+#endif
+    return !(info.permissions() & (QFileDevice::WriteGroup | QFileDevice::WriteOther));
 }
+
+// A lock that names a process; an empty or garbled file, or a folder, names
+// none.
+bool NamesAProcess(QLockFile& lock) {
+    qint64 pid = 0;
+    QString host, application;
+    return lock.getLockInfo(&pid, &host, &application);
+}
+
+} // namespace
+
+QString UserRuntimeFolder(const QString& systemRoot) {
+    const QString session = qEnvironmentVariable("XDG_RUNTIME_DIR");
+    if (!session.isEmpty() && IsUsersOwn(session))
+        return QDir::cleanPath(session);
+#ifdef Q_OS_UNIX
+    // What the sessions that set the variable name, so that a session without
+    // it finds the same lock.
+    const QString system = systemRoot + "/" + QString::number(::geteuid());
+    if (IsUsersOwn(system))
+        return QDir::cleanPath(system);
+#else
+    (void)systemRoot;
+#endif
+    // A folder in the user's cache: never one that other users share.
+    const QString own =
+        QStandardPaths::writableLocation(QStandardPaths::GenericCacheLocation) + "/quillane";
+    QDir().mkpath(own);
+    QFile::setPermissions(own,
+                          QFileDevice::ReadOwner | QFileDevice::WriteOwner | QFileDevice::ExeOwner);
+    return QDir::cleanPath(own);
+}
+
+LockFileInstance::LockFileInstance(const QString& program, const QString& systemRuntimeRoot)
+    : path_(UserRuntimeFolder(systemRuntimeRoot) + "/" + program + ".lock") {}
 
 bool LockFileInstance::AnotherInstanceRunning() {
     lock_ = std::make_unique<QLockFile>(path_);
-    lock_->setStaleLockTime(0); // a lock left by a crashed run is taken over
-    return !lock_->tryLock(0);
+    lock_->setStaleLockTime(0); // a lock whose process is gone is taken over
+    if (lock_->tryLock(0))
+        return false;
+    // Where no lock can be made at all, nothing tells of another run.
+    if (lock_->error() != QLockFile::LockFailedError)
+        return false;
+    if (NamesAProcess(*lock_))
+        return true;
+    // A lock that names no process is stale as well, once it has had the
+    // moment that an instance starting right now needs to write it.
+    if (lock_->tryLock(kLockBeingWrittenMs))
+        return false;
+    if (NamesAProcess(*lock_))
+        return true;
+    if (!QFile::remove(path_))
+        QDir().rmdir(path_);
+    if (!lock_->tryLock(0))
+        qWarning("The lock %s can't be taken: a second start of the program would go unnoticed.",
+                 qPrintable(path_));
+    return false;
 }
 
 ProgramFolder::ProgramFolder(QString programDir, QString exeName, QString commandLine)

@@ -10,10 +10,19 @@
 
 namespace quillane {
 
-// One lock per user and program, in the user's runtime folder.
+// The user's runtime folder: $XDG_RUNTIME_DIR where it is the user's own,
+// else the system's runtime folder of the user (systemRoot/<uid>, which the
+// sessions that set the variable name), else a folder in the user's cache;
+// never a folder that other users share.
+QString UserRuntimeFolder(const QString& systemRoot = QStringLiteral("/run/user"));
+
+// One lock per user and program, in the user's runtime folder. A lock that
+// names no running process (one left by a crash, an empty or garbled file, a
+// folder in its place) is stale and taken over.
 class LockFileInstance : public IInstanceLock {
 public:
-    explicit LockFileInstance(const QString& program);
+    explicit LockFileInstance(const QString& program,
+                              const QString& systemRuntimeRoot = QStringLiteral("/run/user"));
     bool AnotherInstanceRunning() override;
 
 private:

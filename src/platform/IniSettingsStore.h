@@ -1,7 +1,8 @@
 #pragma once
-// The settings store as INI files, one per application, in a per-user folder.
-// Values are byte strings; each byte is kept as the character of that code,
-// so shifted entries survive byte for byte.
+// The settings store as INI files, one per application, in a per-user folder,
+// in the form that QSettings reads and writes (platform/IniText). Values are
+// byte strings; each byte is kept as the character of that code, so shifted
+// entries survive byte for byte.
 #include "common/Services.h"
 
 #include <QString>
@@ -22,6 +23,7 @@ public:
 private:
     QString FileFor(const std::string& application) const;
     QString folder_;
+    bool lockWaited_ = false; // a write of this run has waited for the lock in vain
 };
 
 } // namespace quillane

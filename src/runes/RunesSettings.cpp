@@ -93,8 +93,15 @@ void frmLearnRunesMain::LoadGoals() {
         std::vector<std::string> lines;
         // A file that cannot be read leaves its box as it is.
         Resume([&] { lines = ReadLines(GoalFile(goal)); });
-        for (const std::string& line : lines)
-            Resume([&] { box.SetText(box.Text() + line + "\r\n"); });
+        // Each line goes after the box's text with a line end of its own. The
+        // text is built first and set once: a box set line by line would lay
+        // its whole text out again for every line.
+        Resume([&] {
+            std::string text = box.Text();
+            for (const std::string& line : lines)
+                text.append(line).append("\r\n");
+            box.SetText(std::move(text));
+        });
     }
 }
 

@@ -8,6 +8,7 @@
 #include <gtest/gtest.h>
 
 #include <fstream>
+#include <functional>
 #include <set>
 #include <sstream>
 
@@ -285,6 +286,51 @@ TEST(CardStoreFailures, TheDatabaseIsOnlyRead) {
     cn.reset();
     EXPECT_EQ(read(), before);
     EXPECT_FALSE(std::filesystem::exists(path + "-journal"));
+}
+
+TEST(CardStoreFailures, EachBoxSaysWhatHappenedToTheFile) {
+    cardtest::TempFolder folder;
+    std::string path = folder.File("learn.dll");
+    cardtest::MakeDatabase(path, cardtest::SmallDeck());
+    std::shared_ptr<Connection> cn;
+
+    // Another program holds the file under its exclusive lock.
+    sqlite3* other = nullptr;
+    sqlite3_open(path.c_str(), &other);
+    sqlite3_exec(other, "PRAGMA locking_mode=EXCLUSIVE; BEGIN EXCLUSIVE;", nullptr, nullptr,
+                 nullptr);
+    std::string what = FatalMessage([&] { OpenConnection(cn, path); }, path);
+    EXPECT_NE(what.find("is locked by another program"), std::string::npos) << what;
+    sqlite3_close(other);
+
+    // A program stopped half-way through a change, and left its journal.
+    std::filesystem::create_directory(folder.Path() / "left");
+    const std::string left = cardtest::LeaveUnfinishedChange(path, folder.Path() / "left", false);
+    what = FatalMessage([&] { OpenConnection(cn, left); }, left);
+    EXPECT_NE(what.find("half-changed"), std::string::npos) << what;
+    EXPECT_NE(what.find(left + "-journal"), std::string::npos) << what;
+    EXPECT_EQ(cn, nullptr);
+}
+
+TEST(CardStoreFailures, AFileThatCantChangeIsReadWhateverWasLeftBesideIt) {
+    for (const bool wal : {false, true}) {
+        cardtest::TempFolder folder;
+        std::string path = folder.File("learn.dll");
+        cardtest::MakeDatabase(path, cardtest::SmallDeck());
+        const auto installed = folder.Path() / "installed";
+        std::filesystem::create_directory(installed);
+        const std::string left = cardtest::LeaveUnfinishedChange(path, installed, wal);
+        std::filesystem::permissions(installed, std::filesystem::perms::owner_read |
+                                                    std::filesystem::perms::owner_exec);
+        std::shared_ptr<Connection> cn;
+        std::shared_ptr<Recordset> rs;
+        EXPECT_NO_THROW({
+            OpenConnection(cn, left);
+            OpenRecordset(rs, cn, "SELECT * FROM tblCards");
+        }) << (wal ? "a log" : "a journal");
+        EXPECT_EQ(rs ? rs->RecordCount() : 0, 6);
+        std::filesystem::permissions(installed, std::filesystem::perms::owner_all);
+    }
 }
 
 } // namespace

@@ -66,4 +66,30 @@ inline std::vector<std::string> SmallDeck() {
     };
 }
 
+// A change that another program left unfinished, as a crash would leave it:
+// the database and its rollback journal (or, in WAL mode, its log), copied
+// into `into` while the change is under way. Returns the copy's path.
+inline std::string LeaveUnfinishedChange(const std::string& path, const std::filesystem::path& into,
+                                         bool wal) {
+    sqlite3* db = nullptr;
+    sqlite3_open(path.c_str(), &db);
+    sqlite3_exec(db,
+                 wal ? "PRAGMA journal_mode=WAL; PRAGMA wal_autocheckpoint=0; "
+                       "INSERT INTO tblKeywords VALUES (1, 'unfinished');"
+                     // More than the cache holds, so that pages reach the file.
+                     : "PRAGMA cache_size=1; BEGIN; "
+                       "UPDATE tblCards SET normalmeaning = normalmeaning || ' unfinished'; "
+                       "WITH RECURSIVE n(i) AS (SELECT 1 UNION ALL SELECT i + 1 FROM n "
+                       "WHERE i < 2000) INSERT INTO tblKeywords SELECT 1, hex(randomblob(100)) "
+                       "FROM n;",
+                 nullptr, nullptr, nullptr);
+    const std::filesystem::path copy = into / "learn.dll";
+    for (const char* part : {"", "-journal", "-wal"}) {
+        std::error_code ec;
+        std::filesystem::copy_file(path + part, copy.string() + part, ec);
+    }
+    sqlite3_close(db);
+    return copy.string();
+}
+
 } // namespace cardtest

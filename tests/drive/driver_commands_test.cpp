@@ -102,6 +102,37 @@ TEST_F(DriverCommands, TheTrayPopsUpItsMenuAndTakesOnePick) {
     EXPECT_EQ(Form().picks, (std::vector<std::string>{"exit", "show"}));
 }
 
+TEST_F(DriverCommands, AnyPathIsAnsweredInOneLineAtOnce) {
+    // A dotted path of a megabyte.
+    std::string path = "frmSampler";
+    for (int i = 0; i < 350000; ++i)
+        path += ".ab";
+    EXPECT_EQ(Run("get " + path), "error: unknown: " + path);
+    EXPECT_EQ(Run("click " + path), "error: unknown: " + path);
+    EXPECT_EQ(Run("set " + path + " 1"), "error: unknown: " + path);
+    // What an error answer repeats keeps its control characters escaped.
+    EXPECT_EQ(Run(R"(get "frmSampler.a\r\nb\u0000c")"),
+              R"(error: unknown: frmSampler.a\r\nb\u0000c)");
+    EXPECT_EQ(Run("click frmSampler.a\rb"), R"(error: unknown: frmSampler.a\rb)");
+    EXPECT_EQ(Run(R"(trayevent "5\u00001")"), R"(error: bad value: 5\u00001)");
+}
+
+TEST_F(DriverCommands, NumbersAreWholeNumbersOrRefused) {
+    for (const std::string bad : {"1e3", "3abc", "+1", "0x2", "4.0", "\" 2\"", "99999999999"}) {
+        EXPECT_EQ(Run("set frmSampler.dtpDay.cboDay.ListIndex " + bad).rfind("error: bad value", 0),
+                  0u)
+            << bad;
+        EXPECT_EQ(Run("set frmSampler.SSTab1.Tab " + bad).rfind("error: bad value", 0), 0u) << bad;
+        EXPECT_EQ(Run("trayevent " + bad).rfind("error: bad value", 0), 0u) << bad;
+    }
+    EXPECT_EQ(Run("get frmSampler.SSTab1.TabEnabled(1x)"),
+              "error: no such property: frmSampler.SSTab1.TabEnabled(1x)");
+    EXPECT_EQ(Run("click frmSampler.ListView1.ListItems(1e0)"),
+              "error: unknown: frmSampler.ListView1.ListItems(1e0)");
+    EXPECT_EQ(Run("set frmSampler.dtpDay.cboDay.ListIndex 2"), "ok");
+    EXPECT_EQ(Run("get frmSampler.dtpDay.Picked"), "3");
+}
+
 struct UnwritableAutostart : DriverCommands {
     UnwritableAutostart() : DriverCommands(drive::ScriptedAutostart::Failure::Write) {}
 };

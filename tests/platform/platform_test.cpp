@@ -5,6 +5,9 @@
 #include <QCoreApplication>
 #include <gtest/gtest.h>
 
+#include <functional>
+#include <unistd.h>
+
 using namespace quillane;
 using quillane::testing::ScratchDir;
 
@@ -52,6 +55,56 @@ TEST(InstanceLock, OnlyTheFirstInstanceRunsAndALeftLockIsTakenOver) {
     LockFileInstance again("quillane-test");
     EXPECT_FALSE(again.AnotherInstanceRunning());
     qunsetenv("XDG_RUNTIME_DIR");
+}
+
+TEST(InstanceLock, ALockThatNamesNoProcessIsStale) {
+    namespace fs = std::filesystem;
+    ScratchDir runtime;
+    fs::permissions(runtime.Path(), fs::perms::owner_all);
+    qputenv("XDG_RUNTIME_DIR", Q(runtime.Path()).toUtf8());
+    const auto path = runtime.Path() / "quillane-test.lock";
+    const std::pair<const char*, std::function<void()>> unreadable[] = {
+        {"an empty file", [&] { std::ofstream{path}; }},
+        {"garbage", [&] { std::ofstream(path) << "\x01\x02 no process\n"; }},
+        {"a folder", [&] { fs::create_directory(path); }},
+    };
+    for (const auto& [what, make] : unreadable) {
+        make();
+        LockFileInstance first("quillane-test");
+        EXPECT_FALSE(first.AnotherInstanceRunning()) << what;
+        LockFileInstance second("quillane-test");
+        EXPECT_TRUE(second.AnotherInstanceRunning()) << "the lock works again after " << what;
+    }
+    qunsetenv("XDG_RUNTIME_DIR");
+}
+
+TEST(InstanceLock, EverySessionOfAUserFindsOneLockThatNoOtherUserShares) {
+    namespace fs = std::filesystem;
+    ScratchDir system, cache, shared;
+    qputenv("XDG_CACHE_HOME", Q(cache.Path()).toUtf8());
+    // The user's runtime folder, which a session that sets the variable names.
+    const auto own = system.Path() / std::to_string(::geteuid());
+    fs::create_directory(own);
+    fs::permissions(own, fs::perms::owner_all);
+    qputenv("XDG_RUNTIME_DIR", Q(own).toUtf8());
+    LockFileInstance first("quillane-test", Q(system.Path()));
+    EXPECT_FALSE(first.AnotherInstanceRunning());
+    qunsetenv("XDG_RUNTIME_DIR");
+    LockFileInstance unset("quillane-test", Q(system.Path()));
+    EXPECT_TRUE(unset.AnotherInstanceRunning()) << "a session without XDG_RUNTIME_DIR";
+    // A runtime folder that others may write in is not the user's.
+    fs::permissions(shared.Path(), fs::perms::all);
+    qputenv("XDG_RUNTIME_DIR", Q(shared.Path()).toUtf8());
+    LockFileInstance foreign("quillane-test", Q(system.Path()));
+    EXPECT_TRUE(foreign.AnotherInstanceRunning()) << "a session with someone else's folder";
+    // Without a runtime folder of the user's, the lock is in the user's cache.
+    LockFileInstance none("quillane-test", Q(system.Path() / "none"));
+    EXPECT_FALSE(none.AnotherInstanceRunning());
+    EXPECT_TRUE(fs::exists(cache.Path() / "quillane" / "quillane-test.lock"));
+    EXPECT_TRUE(fs::is_empty(shared.Path()));
+    EXPECT_FALSE(fs::exists(fs::temp_directory_path() / "quillane-test.lock"));
+    qunsetenv("XDG_RUNTIME_DIR");
+    qunsetenv("XDG_CACHE_HOME");
 }
 
 TEST(SystemLocale, ShortDatesReadBackAsTheSameDay) {

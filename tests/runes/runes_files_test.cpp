@@ -1,15 +1,20 @@
-// The goal notes' file format: encodings both ways, lines, and replacement
-// that leaves the old file whole when it fails.
+// The goal notes' file format: encodings both ways, lines, replacement that
+// leaves the old file whole when it fails, and a long note read in one go.
+#include "common/Application.h"
 #include "common/Errors.h"
 #include "common/TextFiles.h"
+#include "runes/RegisterRunes.h"
 #include "runes/ResumeNext.h"
 
 #include "DriveSession.h"
 
 #include <gtest/gtest.h>
 
+#include <atomic>
 #include <fstream>
 #include <iterator>
+#include <sys/stat.h>
+#include <thread>
 
 namespace {
 
@@ -40,6 +45,25 @@ TEST(GoalEncoding, TextsRoundTripThroughTheirFileBytes) {
         EXPECT_EQ(EncodeFileText(c.text), c.bytes) << c.text;
         EXPECT_EQ(DecodeFileText(c.bytes), c.text) << c.text;
     }
+}
+
+TEST(GoalEncoding, EveryTextReadsBackAsTyped) {
+    // Every pair of the characters beyond ASCII that Windows-1252 has, after a
+    // letter: the single-byte form of some pairs is valid UTF-8 as well.
+    std::vector<std::string> high;
+    for (int b = 0x80; b <= 0xFF; ++b)
+        high.push_back(Cp1252ToUtf8(std::string(1, char(b))));
+    std::vector<std::string> texts{"Lunch at the CAF\xC3\x89\xE2\x80\xA6",
+                                   "\xEF\xBB\xBFtyped first", "\xEF\xBB\xBF",
+                                   "\xC3\xAF\xC2\xBB\xC2\xBF\r\n", ""};
+    for (const auto& a : high)
+        for (const auto& b : high)
+            texts.push_back("x" + a + b);
+    int changed = 0;
+    for (const auto& text : texts)
+        if (DecodeFileText(EncodeFileText(text)) != text && ++changed <= 5)
+            ADD_FAILURE() << "comes back changed: " << text;
+    EXPECT_EQ(changed, 0);
 }
 
 TEST(GoalEncoding, AnyBytesGiveText) {
@@ -76,18 +100,128 @@ TEST(GoalFile, ReplacingWritesTheBytesAndFailsWithoutHarm) {
     const auto path = dir.Path() / "Goal2.txt";
     ReplaceFile(path.string(), "na\xC3\xAFve\r\n");
     EXPECT_EQ(Slurp(path), "na\xEFve\r\n");
-    EXPECT_FALSE(std::filesystem::exists(path.string() + ".saving"));
 
     // A folder in the file's place can be neither read nor replaced; the
     // failures are run-time errors that resume-next skips.
     const auto blocked = dir.Path() / "Goal1.txt";
     std::filesystem::create_directory(blocked);
     EXPECT_THROW(ReadLines(blocked.string()), RuntimeError);
+    const auto pipe = dir.Path() / "pipe.txt";
+    ASSERT_EQ(::mkfifo(pipe.c_str(), 0600), 0);
+    EXPECT_THROW(ReadLines(pipe.string()), RuntimeError) << "a pipe is not read: it may never end";
     EXPECT_THROW(ReplaceFile(blocked.string(), "x\r\n"), RuntimeError);
     EXPECT_TRUE(std::filesystem::is_directory(blocked));
-    EXPECT_FALSE(std::filesystem::exists(blocked.string() + ".saving"));
     EXPECT_THROW(ReplaceFile((dir.Path() / "missing" / "Goal1.txt").string(), "x"), RuntimeError);
     EXPECT_THROW(ReadLines((dir.Path() / "none.txt").string()), RuntimeError);
+}
+
+TEST(GoalFile, SavingChangesTheNoteAloneAndKeepsItsLinkAndRights) {
+    namespace fs = std::filesystem;
+    quillane::testing::ScratchDir dir;
+    const auto note = dir.Path() / "Goal1.txt";
+    const auto victim = dir.Path() / "victim.txt";
+    Spit(note, "old\r\n");
+    Spit(victim, "someone else's");
+    const auto mine = fs::perms::owner_read | fs::perms::owner_write;
+    fs::permissions(note, mine);
+    // A link planted where a fixed temporary name would be.
+    fs::create_symlink(victim, note.string() + ".saving");
+    ReplaceFile(note.string(), "new\r\n");
+    EXPECT_EQ(Slurp(note), "new\r\n");
+    EXPECT_EQ(Slurp(victim), "someone else's");
+    EXPECT_EQ(fs::status(note).permissions() & fs::perms::all, mine);
+    EXPECT_EQ(std::distance(fs::directory_iterator(dir.Path()), {}), 3) << "nothing left behind";
+
+    // A note that is a link: the file it names takes the text, the link stays.
+    const auto named = dir.Path() / "notes" / "mine.txt";
+    fs::create_directory(named.parent_path());
+    Spit(named, "old\r\n");
+    const auto linked = dir.Path() / "Goal2.txt";
+    fs::create_symlink(named, linked);
+    ReplaceFile(linked.string(), "through\r\n");
+    EXPECT_TRUE(fs::is_symlink(linked));
+    EXPECT_EQ(Slurp(named), "through\r\n");
+
+    // A read-only note is left as it is.
+    fs::permissions(named, fs::perms::owner_read);
+    EXPECT_THROW(ReplaceFile(linked.string(), "lost\r\n"), RuntimeError);
+    EXPECT_EQ(Slurp(named), "through\r\n");
+}
+
+TEST(GoalFile, TwoWritersNeverMixTheirTexts) {
+    quillane::testing::ScratchDir dir;
+    const std::string note = (dir.Path() / "Goal1.txt").string();
+    std::atomic<int> spoilt{0};
+    auto writer = [&](char letter) {
+        const std::string text(64 * 1024, letter);
+        for (int i = 0; i < 100; ++i) {
+            try {
+                ReplaceFile(note, text);
+                const std::string now = Slurp(note);
+                if (now != std::string(text.size(), now.empty() ? '?' : now[0]))
+                    ++spoilt;
+            } catch (const RuntimeError&) {
+                ++spoilt;
+            }
+        }
+    };
+    std::thread a(writer, 'a'), b(writer, 'b');
+    a.join();
+    b.join();
+    EXPECT_EQ(spoilt, 0) << "each save leaves one writer's whole text";
+}
+
+// The Runes window in process, over a program folder of the test's, with a
+// view that counts how often the first goal's box is told of a new text.
+class NoteView : public IFormHost, public IProgramFolder {
+public:
+    NoteView() {
+        Services services;
+        services.folder = this;
+        app = std::make_unique<Application>(services);
+        RegisterRunes(*app);
+        app->SetHost(this);
+    }
+    ~NoteView() override { app->SetHost(nullptr); }
+    std::string OpenWindow() {
+        app->Dispatch([&] { app->Load("frmLearnRunesMain"); });
+        return app->Find("frmLearnRunesMain")->Find("txtGoal1")->Text();
+    }
+
+    void FormLoaded(Form& form) override {
+        form.SetObserver(
+            [this](Control& c, Prop p) { texts += c.Name() == "txtGoal1" && p == Prop::Text; });
+    }
+    void FormShown(Form&) override {}
+    void FormUnloaded(Form&) override {}
+    void RunModal(Form&) override {}
+    void PopupMenu(Form&, Control&, Control*) override {}
+    void ProgramEnded() override {}
+    std::string ProgramDir() override { return dir.Str(); }
+    std::string FilesDir() override { return dir.Str(); }
+    std::string ExeName() override { return "quillane"; }
+    std::string CommandLine() override { return {}; }
+
+    quillane::testing::ScratchDir dir;
+    std::unique_ptr<Application> app;
+    int texts = 0;
+};
+
+TEST(GoalFile, ALongNoteReachesItsBoxWholeAndInOneGo) {
+    NoteView view;
+    // A note of some 400 KB: lines of every length, with every kind of line
+    // end, some of them empty, in Windows-1252.
+    std::string bytes, expected;
+    const char* const ends[] = {"\r\n", "\n", "\r", "\r\n\r\n"};
+    for (int i = 0; i < 6000; ++i) {
+        const std::string line = std::string(std::size_t(i % 97), 'a' + char(i % 26)) + "\xE9";
+        bytes += line + ends[i % 4];
+        expected += line.substr(0, line.size() - 1) + "\xC3\xA9\r\n" + (i % 4 == 3 ? "\r\n" : "");
+    }
+    Spit(view.dir.Path() / "Goal1.txt", bytes + "last line, no line end");
+    expected += "last line, no line end\r\n";
+    EXPECT_EQ(view.OpenWindow(), expected);
+    EXPECT_EQ(view.texts, 1) << "each time the box is told, it lays the whole text out again";
 }
 
 TEST(ResumeNext, SkipsAFailingStatementAndGoesOn) {

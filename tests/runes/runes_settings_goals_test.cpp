@@ -173,6 +173,17 @@ TEST(RuneGoals, AGoalFileThatCannotBeReadOrWrittenIsSkipped) {
     EXPECT_EQ(Slurp(dir / "Goal2.txt"), "This is Goal 2.\r\n\r\n");
 }
 
+TEST(RuneGoals, ASessionThatNamesNoProgramFolderWritesNothingBesideTheDriver) {
+    const fs::path beside = fs::path(QUILLANE_DRIVE_PATH).parent_path();
+    for (const char* note : {"Goal1.txt", "Goal2.txt"})
+        fs::remove(beside / note);
+    const auto a = Drive(
+        {}, {"start", "click frmMDI.cmdSelectOption(3)", "get frmLearnRunesMain.txtGoal1.Text"});
+    EXPECT_EQ(a[2], R"("This is Goal 1.\r\n")");
+    EXPECT_FALSE(fs::exists(beside / "Goal1.txt"));
+    EXPECT_FALSE(fs::exists(beside / "Goal2.txt"));
+}
+
 TEST(RuneGoals, AnUnwritableProgramFolderKeepsTheNotesInTheUsersDataFolder) {
     ScratchDir data;
     ::setenv("XDG_DATA_HOME", data.Str().c_str(), 1);

@@ -1,5 +1,6 @@
 #pragma once
 // Runs quillane-drive as a process: a script in, one answer a command out.
+#include <algorithm>
 #include <cstdio>
 #include <cstdlib>
 #include <filesystem>
@@ -66,9 +67,21 @@ inline std::vector<std::string> Drive(const std::vector<std::string>& options,
         for (const auto& c : commands)
             script << c << "\n";
     }
-    std::string command = ShellQuote(drive);
+    // A driver that hangs is stopped, and its test fails on the missing answers.
+    std::string command = "timeout 90 " + ShellQuote(drive);
     for (const auto& o : options)
         command += " " + ShellQuote(o);
+    // A session that names no program folder gets one of its own, with the
+    // card database beside it, so that no test writes into the build.
+    if (std::find(options.begin(), options.end(), "--program-dir") == options.end()) {
+        const auto program = io.Path() / "program";
+        std::filesystem::create_directory(program);
+        std::error_code ec;
+        const auto deck = std::filesystem::path(drive).parent_path() / "learn.dll";
+        if (std::filesystem::exists(deck, ec))
+            std::filesystem::create_symlink(deck, program / "learn.dll", ec);
+        command += " --program-dir " + ShellQuote(program.string());
+    }
     command += " < " + ShellQuote((io.Path() / "in.txt").string()) + " > " +
                ShellQuote((io.Path() / "out.txt").string());
     if (std::system(command.c_str()) != 0)

@@ -1,0 +1,1 @@
+SELECT DISTINCT * FROM tblKeywords WHERE Not CardID=7

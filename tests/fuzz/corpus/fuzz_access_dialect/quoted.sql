@@ -1,0 +1,1 @@
+SELECT Group, [Group], "Group", `group` FROM tblCards GROUP BY Group

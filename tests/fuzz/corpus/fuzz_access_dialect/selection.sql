@@ -1,0 +1,1 @@
+SELECT * FROM tblCards WHERE  (Group=0) OR  (Group=1) ORDER BY ID

@@ -1,0 +1,1 @@
+SELECT 'group' || Name FROM tblCards WHERE Name = 'it''s [group
