@@ -48,7 +48,8 @@ void FormHost::FormLoaded(Form& form) {
     } else if (form.IsMdiChild() && mdi_) {
         auto* sub = mdi_->addSubWindow(
             widget, Qt::SubWindow | Qt::WindowTitleHint | Qt::WindowCloseButtonHint |
-                        Qt::WindowMinimizeButtonHint | Qt::WindowSystemMenuHint);
+                        Qt::WindowMinimizeButtonHint | Qt::WindowMaximizeButtonHint |
+                        Qt::WindowSystemMenuHint);
         sub->setAttribute(Qt::WA_DeleteOnClose, false);
         sub->setWindowIcon(QApplication::windowIcon());
         w.frame = sub;
