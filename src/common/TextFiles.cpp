@@ -11,6 +11,7 @@
 #include <fstream>
 #include <random>
 #include <sstream>
+#include <utility>
 
 namespace quillane {
 
@@ -25,44 +26,51 @@ constexpr std::array<char32_t, 32> kHigh = {
 
 const std::string kByteOrderMark = "\xEF\xBB\xBF";
 
+// The code point of the UTF-8 sequence at p, and where the next one begins;
+// nothing when the bytes there are not valid UTF-8.
+std::optional<std::pair<char32_t, const char*>> Sequence(const char* p, const char* end) {
+    const auto b = std::uint8_t(*p);
+    int extra = 0;
+    char32_t c = 0;
+    if (b < 0x80)
+        return std::pair{char32_t(b), p + 1};
+    if (b >= 0xC2 && b <= 0xDF) {
+        extra = 1;
+        c = b & 0x1F;
+    } else if (b >= 0xE0 && b <= 0xEF) {
+        extra = 2;
+        c = b & 0x0F;
+    } else if (b >= 0xF0 && b <= 0xF4) {
+        extra = 3;
+        c = b & 0x07;
+    } else {
+        return std::nullopt;
+    }
+    if (end - p <= extra)
+        return std::nullopt; // a sequence cut short by the end
+    for (int k = 1; k <= extra; ++k) {
+        const auto t = std::uint8_t(p[k]);
+        if ((t & 0xC0) != 0x80)
+            return std::nullopt;
+        c = (c << 6) | (t & 0x3F);
+    }
+    // Overlong forms, surrogates and values beyond Unicode are not text.
+    if ((extra == 2 && c < 0x800) || (extra == 3 && (c < 0x10000 || c > 0x10FFFF)) ||
+        (c >= 0xD800 && c <= 0xDFFF))
+        return std::nullopt;
+    return std::pair{c, p + extra + 1};
+}
+
 // Walks valid UTF-8 and hands each code point to emit; false as soon as the
 // bytes are not valid UTF-8.
 template <class Emit> bool WalkUtf8(const std::string& bytes, Emit emit) {
-    std::size_t i = 0;
-    while (i < bytes.size()) {
-        const auto b = std::uint8_t(bytes[i]);
-        int extra = 0;
-        char32_t c = 0;
-        if (b < 0x80) {
-            emit(char32_t(b));
-            ++i;
-            continue;
-        } else if (b >= 0xC2 && b <= 0xDF) {
-            extra = 1;
-            c = b & 0x1F;
-        } else if (b >= 0xE0 && b <= 0xEF) {
-            extra = 2;
-            c = b & 0x0F;
-        } else if (b >= 0xF0 && b <= 0xF4) {
-            extra = 3;
-            c = b & 0x07;
-        } else {
+    const char* const end = bytes.data() + bytes.size();
+    for (const char* p = bytes.data(); p != end;) {
+        const auto sequence = Sequence(p, end);
+        if (!sequence)
             return false;
-        }
-        if (i + std::size_t(extra) >= bytes.size())
-            return false; // a sequence cut short by the end
-        for (int k = 1; k <= extra; ++k) {
-            const auto t = std::uint8_t(bytes[i + std::size_t(k)]);
-            if ((t & 0xC0) != 0x80)
-                return false;
-            c = (c << 6) | (t & 0x3F);
-        }
-        // Overlong forms, surrogates and values beyond Unicode are not text.
-        if ((extra == 2 && c < 0x800) || (extra == 3 && (c < 0x10000 || c > 0x10FFFF)) ||
-            (c >= 0xD800 && c <= 0xDFFF))
-            return false;
-        emit(c);
-        i += std::size_t(extra) + 1;
+        emit(sequence->first);
+        p = sequence->second;
     }
     return true;
 }
@@ -88,7 +96,18 @@ void AppendUtf8(std::string& out, char32_t c) {
 }
 
 bool IsValidUtf8(const std::string& bytes) {
-    return WalkUtf8(bytes, [](char32_t) {});
+    const char* const end = bytes.data() + bytes.size();
+    for (const char* p = bytes.data(); p != end;) {
+        if (!(*p & 0x80)) { // ASCII, the most of any note, is passed over
+            ++p;
+            continue;
+        }
+        const auto sequence = Sequence(p, end);
+        if (!sequence)
+            return false;
+        p = sequence->second;
+    }
+    return true;
 }
 
 std::optional<std::u32string> DecodeUtf8(const std::string& bytes) {
@@ -101,16 +120,17 @@ std::optional<std::u32string> DecodeUtf8(const std::string& bytes) {
 std::string Cp1252ToUtf8(const std::string& bytes) {
     std::string out;
     out.reserve(bytes.size() + bytes.size() / 8);
-    auto ascii = bytes.begin();
-    while (ascii != bytes.end()) {
+    const char* const end = bytes.data() + bytes.size();
+    for (const char* p = bytes.data(); p != end;) {
         // Runs of ASCII stand as they are.
-        const auto high = std::find_if(ascii, bytes.end(), [](char ch) { return ch & 0x80; });
-        out.append(ascii, high);
-        if (high == bytes.end())
+        const char* const ascii = p;
+        while (p != end && !(*p & 0x80))
+            ++p;
+        out.append(ascii, p);
+        if (p == end)
             break;
-        const auto b = std::uint8_t(*high);
+        const auto b = std::uint8_t(*p++);
         AppendUtf8(out, b <= 0x9F ? kHigh[b - 0x80] : char32_t(b));
-        ascii = high + 1;
     }
     return out;
 }
