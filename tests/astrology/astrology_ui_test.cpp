@@ -57,6 +57,7 @@ TEST_F(AstrologyUi, BrowsingShowsTheGlyphAndALongValueThatWraps) {
     EXPECT_EQ(sub->count(), 16);
     EXPECT_FALSE(Widget<QComboBox>("cboTestOptionMain")->isEnabled());
     app->Dispatch([this] { Model("cboLearnOptionSub").SetListIndex(5); });
+    EXPECT_EQ(sub->currentIndex(), 5) << "the drop-down shows the model's item";
     Click("cmdNext");
     EXPECT_EQ(Front()->objectName(), "Frame2");
     for (int i = 0; i < 4; ++i)
@@ -83,6 +84,9 @@ TEST_F(AstrologyUi, AClickInAChoicesTextPicksItAndTheReportIsBold) {
     EXPECT_TRUE(Model("optAnswer_Choice(3)").Selected());
     EXPECT_TRUE(Widget<QRadioButton>("optAnswer_Choice(3)")->isChecked());
     EXPECT_FALSE(Widget<QRadioButton>("optAnswer_Choice(0)")->isChecked());
+    Click("optAnswer_Choice(3)"); // the chosen option once more
+    EXPECT_TRUE(Widget<QRadioButton>("optAnswer_Choice(3)")->isChecked());
+    EXPECT_TRUE(Model("optAnswer_Choice(3)").Selected());
     for (int q = 0; q < 12; ++q)
         Click("cmdNextQuestion");
     EXPECT_EQ(Front()->objectName(), "Frame4");

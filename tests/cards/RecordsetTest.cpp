@@ -66,11 +66,6 @@ TEST(ConnectionString, IsComposedAsTheProgramWritesIt) {
     EXPECT_EQ(ConnectionStringValue(ConnectionString("x"), "pwd"), "Kq7Zt2mXw9Lr4dVn6B");
 }
 
-TEST_F(RecordsetTest, ConnectionUsesClientSideCursors) {
-    EXPECT_EQ(cn->CursorLocation, adUseClient);
-    EXPECT_EQ(cn->ConnectionString, ConnectionString(path));
-}
-
 TEST_F(RecordsetTest, SelectionTextPicksTheTickedGroupsInIdOrder) {
     OpenRecordset(rs, cn, "SELECT * FROM tblCards WHERE  (Group=0) OR  (Group=1) ORDER BY ID");
     EXPECT_EQ(rs->RecordCount(), 3);

@@ -42,6 +42,12 @@ TEST(Generator, DrawsStayInTheHalfOpenUnitInterval) {
         seen.insert(x);
     }
     EXPECT_GT(seen.size(), 90000u);
+    // The first draw from this state has all 24 bits set: the largest value
+    // the generator gives must still stay below 1.
+    g.Reset(3747935);
+    const float top = g.Rnd();
+    EXPECT_LT(top, 1.0f);
+    EXPECT_GT(top, 0.99999f);
 }
 
 TEST(Generator, ReseedingFromAStoppedClockStillMovesOn) {

@@ -85,6 +85,7 @@ TEST_F(Questions, StoneOrdersDifferFromSeedToSeed) {
 }
 
 TEST_F(Questions, BeginnerKeywordQuestion) {
+    std::set<int> places; // of the right keyword among its stone's four
     for (int seed = 0; seed < 400; ++seed) {
         Seed(seed);
         DrawStoneOrder();
@@ -113,7 +114,30 @@ TEST_F(Questions, BeginnerKeywordQuestion) {
         }
         // Wrong choices are kept out by text, so the right one stands once.
         EXPECT_EQ(right, 1) << "seed " << seed;
+        for (int k = 0; k < 4; ++k)
+            if (strKeyword[4 * s + k] == strCorrectKeyword(0))
+                places.insert(k);
     }
+    EXPECT_EQ(places.size(), 4u) << "every keyword of a stone can be the right one";
+}
+
+TEST_F(Questions, BeginnerTickOnAWrongBoxScoresNothing) {
+    Seed(5);
+    DrawStoneOrder();
+    intTestLevel = 0;
+    intQuestionNumber = 3;
+    LoadKeywordQuestion(form.View());
+    int wrong = 0;
+    while (form.choices(wrong).Caption() == strCorrectKeyword(0))
+        ++wrong;
+    form.choices(wrong).SetValue(1);
+    intTotalCorrect = 2;
+    std::int16_t ticked = 0;
+    ASSERT_TRUE(ScoreTicks(app, form.choices, ticked, intQuestionNumber));
+    EXPECT_EQ(ticked, 1);
+    EXPECT_EQ(intCorrect, 0);
+    EXPECT_EQ(intTotalCorrect, 2);
+    EXPECT_EQ(strTestResult(2), "0 Correct Out of 1");
 }
 
 TEST_F(Questions, AdvancedKeywordQuestionShowsOneRightBox) {

@@ -1,8 +1,9 @@
-// Content tests of the rune tables: the fixed columns word for word, the
-// written paragraphs by opening and length, the identities that the tests of
+// Content tests of the rune tables: one digest for the texts, sample rows,
+// the written paragraphs' shape, the identities that the tests of
 // the Runes subject rely on, and the stone pictures.
 #include "runes/modLearnRunes.h"
 
+#include "TableDigest.h"
 #include "TextOpenings.h"
 
 #include <gtest/gtest.h>
@@ -27,100 +28,28 @@ protected:
     void SetUp() override { LoadRuneTables(); }
 };
 
-struct Stone {
-    const char* name;
-    std::vector<std::string> alternativeNames;
-    std::vector<std::string> keywords;
-    bool reversible;
-};
+// The stones whose reverse reading is no warning of its own.
+bool Reversible(int stone) {
+    return !std::set<int>{6, 8, 10, 11, 15, 21, 22}.contains(stone);
+}
 
-const std::vector<Stone> kExpectedStones = {
-    {"Fehu", {"Faihu", "Foeh", "Fe"}, {"Wealth", "Mobility", "Fulfillment", "Intuition"}, true},
-    {"Uruz",
-     {"Uraz", "Uros", "Ur"},
-     {"Beginnings", "Spirituality", "Opportunity", "Harmony"},
-     true},
-    {"Thurisaz",
-     {"Thuith", "Thorn", "Thurs"},
-     {"Protection", "Action", "Destruction", "Willpower"},
-     true},
-    {"Ansuz", {"Os", "Ass", "Ansur"}, {"Rebirth", "Knowledge", "Communication", "Justice"}, true},
-    {"Raidho", {"Raidha", "Rad", "Raid"}, {"Rhythm", "Movement", "Travel", "Spiritual"}, true},
-    {"Kenaz",
-     {"Kusma", "Kaun", "Kaunaz"},
-     {"Knowledge", "Fire", "Guiding Light", "Fertility"},
-     true},
-    {"Gebo", {"Geuua", "Gipt", "Geofu"}, {"Gift", "Exchange", "Interaction", "Balance"}, false},
-    {"Wunjo", {"Uuinne", "Vend", "Wynn"}, {"Joy", "Pleasure", "Hope", "Fellowship"}, true},
-    {"Hagalaz",
-     {"Haal", "Hagall", "Hagl"},
-     {"Transformation", "Change", "Evolution", "Protection"},
-     false},
-    {"Nauthiz", {"Noicz", "Naud", "Naudr"}, {"Need", "Help", "Resistance", "Love"}, true},
-    {"Isa",
-     {"Icz", "Iss", "Is"},
-     {"Constraint", "Massive Force", "Gradual Integration", "Delay"},
-     false},
-    {"Jera", {"Gaar", "Ar", "Ger"}, {"Cycles", "Right Action", "Completion", "Fertility"}, false},
-    {"Eihwaz", {"Ezck", "Yr", "Eo"}, {"Communication", "Death", "Regeneration", "Knowledge"}, true},
-    {"Perthro",
-     {"Pertra", "Peordh", "Peorth"},
-     {"Birth", "Wisdom", "Kinship", "Manifestation"},
-     true},
-    {"Algiz", {"Algis", "Elhaz", "Eolh"}, {"Spirit", "Protection", "Sanctuary", "Refuge"}, true},
-    {"Sowilo",
-     {"Sugil", "Sol", "Sulu"},
-     {"Partnership", "Journey", "Power", "Transformation"},
-     false},
-    {"Tiwaz", {"Tys", "Tyr", "Tir"}, {"Justice", "Loyalty", "Victory", "Support"}, true},
-    {"Berkano",
-     {"Berkana", "Bercna", "Bjarkan"},
-     {"Rebirth", "Growth", "Transition", "Spirit"},
-     true},
-    {"Ehwaz", {"Eys", "Ehol", "Ior"}, {"Duality", "Movement", "Partnership", "Interaction"}, true},
-    {"Mannaz", {"Manna", "Madr", "Mann"}, {"Godhood", "Humanity", "Ancestors", "Memory"}, true},
-    {"Laguz", {"Laaz", "Logr", "Lagu"}, {"Fluidity", "Life Force", "Birth", "Intuition"}, true},
-    {"Ingwaz",
-     {"Enguz", "Ing", "Ingvarr"},
-     {"Energy", "Gestation", "Integration", "Male Fertility"},
-     false},
-    {"Dagaz",
-     {"Daaz", "Daeg", "Dagur"},
-     {"Light", "Enlightenment", "Awakening", "Intuition"},
-     false},
-    {"Othala",
-     {"Utal", "Odal", "Otael"},
-     {"Ancestry", "Prosperity", "Inheritance", "Family"},
-     true},
-};
-
-TEST_F(RuneTables, SizesAndSpareEntries) {
-    EXPECT_EQ(kStoneCount, 24);
-    EXPECT_EQ(strStoneName.size(), 25u);
-    EXPECT_EQ(strNormalMeaning.size(), 25u);
-    EXPECT_EQ(strReverseMeaning.size(), 25u);
-    EXPECT_EQ(strMarkstaveMeaning.size(), 25u);
-    EXPECT_EQ(strKeyword.size(), 97u);
-    EXPECT_EQ(strAlternativeName.size(), 73u);
-    // The spare last entries stay empty; every entry below them is filled.
-    EXPECT_EQ(strStoneName[24], "");
-    EXPECT_EQ(strNormalMeaning[24], "");
-    EXPECT_EQ(strReverseMeaning[24], "");
-    EXPECT_EQ(strMarkstaveMeaning[24], "");
-    EXPECT_EQ(strKeyword[96], "");
-    EXPECT_EQ(strAlternativeName[72], "");
-    for (int s = 0; s < 24; ++s) {
-        EXPECT_FALSE(strStoneName[s].empty()) << s;
-        EXPECT_FALSE(strNormalMeaning[s].empty()) << s;
-        EXPECT_FALSE(strReverseMeaning[s].empty()) << s;
-        EXPECT_FALSE(strMarkstaveMeaning[s].empty()) << s;
+// One digest stands for the texts; a deliberate change of the texts updates
+// the constant here in the same commit.
+TEST_F(RuneTables, TablesMatchTheirDigestAndKeepOneEmptySpare) {
+    quillane::testing::TableDigest digest;
+    digest.AddAll(strStoneName).AddAll(strAlternativeName).AddAll(strKeyword);
+    digest.AddAll(strNormalMeaning).AddAll(strReverseMeaning).AddAll(strMarkstaveMeaning);
+    EXPECT_EQ(digest.Value(), 0xf63ccfb0a8d3347cu) << "new digest " << digest.Hex();
+    for (const auto* column :
+         {&strStoneName, &strNormalMeaning, &strReverseMeaning, &strMarkstaveMeaning}) {
+        EXPECT_TRUE(column->back().empty());
+        EXPECT_TRUE(std::none_of(column->begin(), column->end() - 1,
+                                 [](const std::string& text) { return text.empty(); }));
     }
-    for (int k = 0; k < 96; ++k) {
-        EXPECT_FALSE(strKeyword[k].empty()) << k;
-    }
-    for (int k = 0; k < 72; ++k) {
-        EXPECT_FALSE(strAlternativeName[k].empty()) << k;
-    }
+    EXPECT_TRUE(strKeyword.back().empty());
+    EXPECT_TRUE(strAlternativeName.back().empty());
+    EXPECT_TRUE(std::none_of(strKeyword.begin(), strKeyword.end() - 1,
+                             [](const std::string& text) { return text.empty(); }));
 }
 
 TEST_F(RuneTables, LoadingAgainRewritesTheSameValues) {
@@ -138,19 +67,21 @@ TEST_F(RuneTables, LoadingAgainRewritesTheSameValues) {
     EXPECT_EQ(strKeyword, keywords);
 }
 
-TEST_F(RuneTables, NamesAlternativeNamesAndKeywordsInDisplayOrder) {
-    ASSERT_EQ(kExpectedStones.size(), 24u);
-    for (int s = 0; s < 24; ++s) {
-        const Stone& want = kExpectedStones[s];
-        SCOPED_TRACE(want.name);
-        EXPECT_EQ(strStoneName[s], want.name);
-        for (int j = 0; j < 3; ++j) {
-            EXPECT_EQ(strAlternativeName[3 * s + j], want.alternativeNames[j]);
-        }
-        for (int j = 0; j < 4; ++j) {
-            EXPECT_EQ(strKeyword[4 * s + j], want.keywords[j]);
-        }
-    }
+// Rows where a slip would show: the ends, and texts with odd spacing.
+TEST_F(RuneTables, SampleRowsStandAsWritten) {
+    EXPECT_EQ(strStoneName[0], "Fehu");
+    EXPECT_EQ(strStoneName[23], "Othala");
+    EXPECT_EQ(strAlternativeName[0], "Faihu");
+    EXPECT_EQ(strAlternativeName[71], "Otael");
+    EXPECT_EQ(strKeyword[0], "Wealth");
+    EXPECT_EQ(strKeyword[42], "Gradual Integration");
+    EXPECT_EQ(strKeyword[87], "Male Fertility");
+    EXPECT_NE(strNormalMeaning[0].find("new financial   opportunities"), std::string::npos);
+    EXPECT_NE(strNormalMeaning[0].find("wealth and not be selfish."), std::string::npos);
+    EXPECT_EQ(strReverseMeaning[15], "This rune cannot be reversed.");
+    EXPECT_TRUE(strMarkstaveMeaning[15].starts_with("You may face the wrath of God.  You"));
+    EXPECT_TRUE(strMarkstaveMeaning[22].ends_with("Amy also stand for hopelessness."));
+    EXPECT_TRUE(strNormalMeaning[23].starts_with("This is the 'inheritance' rune. "));
 }
 
 TEST_F(RuneTables, KeywordRepeatsAcrossStones) {
@@ -159,29 +90,10 @@ TEST_F(RuneTables, KeywordRepeatsAcrossStones) {
         stonesOf[strKeyword[k]].insert(strStoneName[k / 4]);
     }
     EXPECT_EQ(stonesOf.size(), 80u);
-    const std::map<std::string, std::set<std::string>> shared = {
-        {"Intuition", {"Fehu", "Laguz", "Dagaz"}},
-        {"Protection", {"Thurisaz", "Hagalaz", "Algiz"}},
-        {"Knowledge", {"Ansuz", "Kenaz", "Eihwaz"}},
-        {"Rebirth", {"Ansuz", "Berkano"}},
-        {"Communication", {"Ansuz", "Eihwaz"}},
-        {"Justice", {"Ansuz", "Tiwaz"}},
-        {"Movement", {"Raidho", "Ehwaz"}},
-        {"Fertility", {"Kenaz", "Jera"}},
-        {"Interaction", {"Gebo", "Ehwaz"}},
-        {"Transformation", {"Hagalaz", "Sowilo"}},
-        {"Birth", {"Perthro", "Laguz"}},
-        {"Spirit", {"Algiz", "Berkano"}},
-        {"Partnership", {"Sowilo", "Ehwaz"}},
-    };
     for (const auto& [word, stones] : stonesOf) {
-        const auto it = shared.find(word);
-        if (it == shared.end()) {
-            EXPECT_EQ(stones.size(), 1u) << word;
-        } else {
-            EXPECT_EQ(stones, it->second) << word;
-        }
+        EXPECT_LE(stones.size(), 3u) << word;
     }
+    EXPECT_EQ(stonesOf["Intuition"], (std::set<std::string>{"Fehu", "Laguz", "Dagaz"}));
     // No stone carries the same keyword twice, and multi-word keywords are
     // single entries.
     for (int s = 0; s < 24; ++s) {
@@ -199,136 +111,13 @@ TEST_F(RuneTables, AlternativeNamesAreAllDifferent) {
     EXPECT_EQ(names.size(), 72u);
 }
 
-TEST_F(RuneTables, FehuRowInFull) {
-    EXPECT_EQ(strNormalMeaning[0],
-              "The meaning of the rune is 'cattle' or the main livelihood of the tribe. It is a "
-              "positive rune which also means material gain, new financial   opportunities and "
-              "success. It recommends people to distribute gifts freely if they wish to be "
-              "prosperous. In other words, people should share their wealth and not be selfish. "
-              "Good time to invest in buying and selling. It also increases intuitive abilities, "
-              "increases the depth of knowledge and brings more focus into your life.\r\n"
-              "This rune may be linked to Frey or Freya thus making it a strong omen for "
-              "fertility. This rune should never be taken lightly.");
-    const std::string reverse =
-        "When reversed it means stagnation, infertility and loss or failure. With a positive "
-        "rune it indicates a delay. With a negative rune, it is better to give up the project "
-        "undertaken.";
-    EXPECT_EQ(strReverseMeaning[0], reverse);
-    EXPECT_EQ(strMarkstaveMeaning[0], reverse);
-}
-
-TEST_F(RuneTables, StonesThatCannotBeReversedKeepTheirOwnWording) {
-    struct Row {
-        int stone;
-        const char* reverse;
-        const char* markstave;
-    };
-    const Row rows[] = {
-        {6,
-         "Gebo rune cannot be reversed. The meaning can be understood from the other runes that "
-         "fall with it.",
-         "There may be some loneliness in your life. You may tend to over sacrifice more than "
-         "needed. You may also be dependent on others."},
-        {8, "This rune is not reversed.",
-         "There may be a natural disaster or catastrophe. It may also lead to pain, suffering and "
-         "disillusionment."},
-        {10, "This rune cannot be reversed. This will have to be read with the surrounding runes.",
-         "There may be some dullness in your life. This is a time for deceit and treachery."},
-        {11, "This rune is non reversible and has to be read with the surrounding runes.",
-         "There may be sudden set backs. This may be a bad time for starting some new venture."},
-        {15, "This rune cannot be reversed.",
-         "You may face the wrath of God.  You may also be in for some bad advice from people as "
-         "you are gulliable."},
-        {21, "This is a non reversible rune.",
-         "This signifies a period of hard labor and work. There may be movement but no end is "
-         "achievement. This may also refer to impotency."},
-        {22, "This is a nonreversible rune.",
-         "This is a complete coming full circle rune. Amy also stand for hopelessness."},
-    };
-    for (const Row& row : rows) {
-        SCOPED_TRACE(strStoneName[row.stone]);
-        EXPECT_EQ(strReverseMeaning[row.stone], row.reverse);
-        EXPECT_EQ(strMarkstaveMeaning[row.stone], row.markstave);
-    }
-}
-
 TEST_F(RuneTables, MarkstaveEqualsReverseExactlyForReversibleStones) {
     for (int s = 0; s < 24; ++s) {
         SCOPED_TRACE(strStoneName[s]);
-        if (kExpectedStones[s].reversible) {
+        if (Reversible(s)) {
             EXPECT_EQ(strMarkstaveMeaning[s], strReverseMeaning[s]);
         } else {
             EXPECT_NE(strMarkstaveMeaning[s], strReverseMeaning[s]);
-        }
-    }
-}
-
-struct Paragraphs {
-    int stone;
-    const char* normalOpening;
-    std::size_t normalLength;
-    const char* reverseOpening; // nullptr for a stone that cannot be reversed
-    std::size_t reverseLength;
-};
-
-const Paragraphs kParagraphs[] = {
-    {0, "The meaning of the rune is 'cattle' or the main livelihood of the tribe.", 597,
-     "When reversed it means stagnation, infertility and loss or failure.", 180},
-    {1, "The rune represents 'aurochs' or wild bison like animals.", 492,
-     "When reversed it indicates ill health.", 280},
-    {2, "This is also known as the troll or 'thorn' rune.", 662,
-     "When reversed it shows end of good times and beginning of bad ones.", 194},
-    {3, "This rune means 'god' or 'deity'.", 399,
-     "You may be under the influence of malicious advice.", 330},
-    {4, "This rune represents the 'wheel of life'.", 438,
-     "There may be a delay in your physical or spiritual journey.", 265},
-    {5, "This is the 'fire' rune.", 345,
-     "It may lead to isolation or information being hidden from you.", 228},
-    {6, "This is the rune of 'exchange'.", 424, nullptr, 99},
-    {7, "This rune is referred to as the 'wish card' and is the happiness rune.", 318,
-     "There may be some unhappiness or a third party causing trouble.", 190},
-    {8, "This rune means 'hail' with respect to hailstones.", 452, nullptr, 26},
-    {9, "This is the 'need' rune.", 280, "You may be on the wrong track.", 165},
-    {10, "This is the 'ice' rune.", 441, nullptr, 83},
-    {11, "This rune means the 'harvest'.", 315, nullptr, 74},
-    {12, "This is the 'yew' rune, the wood used in rune craft and making bows.", 343,
-     "This may be a bad time for you.", 180},
-    {13, "This means a sudden dash of luck.", 368, "When reversed, this rune can mean death.", 180},
-    {14, "This rune means 'defense' and 'protection'.", 299, "This indicates vulnerability.", 81},
-    {15, "This is the 'sun' rune which indicates victory.", 268, nullptr, 29},
-    {16, "This is the rune of the 'warrior'.", 325, "Your energy and creative flow may be blocked.",
-     267},
-    {17, "This is the 'birch' rune.", 276,
-     "There may be some family problems or troubles on the domestic side.", 216},
-    {18, "This is the 'horse' rune.", 233, "You may be making false friends.", 165},
-    {19, "This is the 'man' rune, as an individual or as a race.", 306, "Non one can help you.",
-     173},
-    {20, "This is the rune of 'intuitive knowledge' or 'water'.", 451,
-     "This is a period of stagnation.", 288},
-    {21, "This is the 'fertility' rune.", 361, nullptr, 30},
-    {22, "This is the 'day' rune.", 326, nullptr, 29},
-    {23, "This is the 'inheritance' rune.", 313,
-     "This may mean some delay in work or unexpected backing out of help.", 301},
-};
-
-bool StartsWith(const std::string& text, const std::string& opening) {
-    return text.compare(0, opening.size(), opening) == 0;
-}
-
-TEST_F(RuneTables, ParagraphsOpenAsGivenAndHaveTheirExactLength) {
-    for (const Paragraphs& p : kParagraphs) {
-        SCOPED_TRACE(strStoneName[p.stone]);
-        const std::string& normal = strNormalMeaning[p.stone];
-        const std::string& reverse = strReverseMeaning[p.stone];
-        EXPECT_TRUE(StartsWith(normal, p.normalOpening)) << normal;
-        EXPECT_EQ(normal.size(), p.normalLength);
-        if (p.reverseOpening != nullptr) {
-            EXPECT_TRUE(StartsWith(reverse, p.reverseOpening)) << reverse;
-        }
-        EXPECT_EQ(reverse.size(), p.reverseLength);
-        // The opening is a whole sentence: what follows starts a new one.
-        if (normal.size() > std::string(p.normalOpening).size()) {
-            EXPECT_EQ(normal[std::string(p.normalOpening).size()], ' ');
         }
     }
 }
@@ -337,10 +126,11 @@ TEST_F(RuneTables, ParagraphsOpenAsGivenAndHaveTheirExactLength) {
 // the reversible stones, are written freely and should not run in one mould.
 TEST_F(RuneTables, NoOpeningOfThreeWordsRunsThroughMoreThanHalfAColumn) {
     std::vector<std::string> afterOpening, reverse;
-    for (const Paragraphs& p : kParagraphs) {
-        afterOpening.push_back(strNormalMeaning[p.stone].substr(std::strlen(p.normalOpening)));
-        if (p.reverseOpening != nullptr) {
-            reverse.push_back(strReverseMeaning[p.stone]);
+    for (int s = 0; s < 24; ++s) {
+        const std::string& normal = strNormalMeaning[s];
+        afterOpening.push_back(normal.substr(normal.find(". ") + 2));
+        if (Reversible(s)) {
+            reverse.push_back(strReverseMeaning[s]);
         }
     }
     for (const auto* texts : {&afterOpening, &reverse}) {
@@ -422,7 +212,7 @@ TEST_F(RuneTables, ReadingsWithPositiveAndNegativeRunes) {
         if (p == std::string::npos && n == std::string::npos) {
             continue;
         }
-        EXPECT_TRUE(kExpectedStones[s].reversible);
+        EXPECT_TRUE(Reversible(s));
         // Both readings are given, the positive first, each as a sentence.
         ASSERT_NE(p, std::string::npos);
         ASSERT_NE(n, std::string::npos);
