@@ -19,19 +19,28 @@ namespace quillane::ui {
 namespace {
 
 // A panel that draws an SVG stretched over its whole area.
+// Drawn once for each size the panel takes, not at every paint.
 class SvgBackground : public QWidget {
 public:
     SvgBackground(const QString& resource, QWidget* parent = nullptr)
-        : QWidget(parent), renderer_(resource) {}
+        : QWidget(parent), resource_(resource) {}
 
 protected:
     void paintEvent(QPaintEvent*) override {
-        QPainter painter(this);
-        renderer_.render(&painter, rect());
+        const qreal ratio = devicePixelRatioF();
+        if (drawn_.size() != size() * ratio) {
+            drawn_ = QPixmap(size() * ratio);
+            drawn_.fill(Qt::transparent);
+            QPainter onto(&drawn_);
+            QSvgRenderer(resource_).render(&onto, QRectF(QPointF(0, 0), size() * ratio));
+            drawn_.setDevicePixelRatio(ratio);
+        }
+        QPainter(this).drawPixmap(0, 0, drawn_);
     }
 
 private:
-    QSvgRenderer renderer_;
+    QString resource_;
+    QPixmap drawn_;
 };
 
 // Hides the bar's decorations while the window is too narrow for them, so the
