@@ -98,10 +98,7 @@ QWidget* ChoicePanel() {
     column->addWidget(ZodiacStrip());
     column->addStretch(1);
 
-    auto* buttons = new QHBoxLayout;
-    buttons->addStretch(1);
-    buttons->addWidget(Command("cmdNext", true));
-    column->addLayout(buttons);
+    column->addLayout(ButtonRow({}, {Command("cmdNext", true)}));
     return panel;
 }
 
@@ -133,12 +130,8 @@ QWidget* BrowsingPanel() {
     column->addLayout(record, 1);
 
     column->addSpacing(8);
-    auto* buttons = new QHBoxLayout;
-    buttons->addWidget(Command("cmdBackToMain(0)"));
-    buttons->addStretch(1);
-    buttons->addWidget(Command("cmdBackDesc"));
-    buttons->addWidget(Command("cmdNextDesc", true));
-    column->addLayout(buttons);
+    column->addLayout(ButtonRow({Command("cmdBackToMain(0)")},
+                                {Command("cmdBackDesc"), Command("cmdNextDesc", true)}));
     return panel;
 }
 
@@ -180,10 +173,7 @@ QWidget* QuestionPanel(Form& form) {
     column->addLayout(question, 1);
     column->addSpacing(8);
 
-    auto* buttons = new QHBoxLayout;
-    buttons->addStretch(1);
-    buttons->addWidget(Command("cmdNextQuestion", true));
-    column->addLayout(buttons);
+    column->addLayout(ButtonRow({}, {Command("cmdNextQuestion", true)}));
     return panel;
 }
 
@@ -196,10 +186,7 @@ QWidget* ReportPanel() {
     report->setAccessibleName("Test report");
     report->document()->setDocumentMargin(12);
     column->addWidget(report, 1);
-    auto* buttons = new QHBoxLayout;
-    buttons->addStretch(1);
-    buttons->addWidget(Command("cmdBackToMain(1)", true));
-    column->addLayout(buttons);
+    column->addLayout(ButtonRow({}, {Command("cmdBackToMain(1)", true)}));
     return panel;
 }
 

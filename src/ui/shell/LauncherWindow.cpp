@@ -135,7 +135,7 @@ QWidget* BuildLauncher(Form&) {
         decorations << Picture(name, resource, decorSize);
         // They give way first when the window is narrow.
         decorations.back()->setMinimumSize(1, decorSize.height());
-        decorations.back()->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Fixed);
+        decorations.back()->setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Fixed);
         buttonRow->addWidget(decorations.back());
     };
     decoration("Picture2", ":/launcher/decor-1.svg");
