@@ -28,7 +28,7 @@ Value ReadColumn(sqlite3_stmt* stmt, int column) {
         return Value::Real(sqlite3_column_double(stmt, column));
     case SQLITE_TEXT: {
         auto text = reinterpret_cast<const char*>(sqlite3_column_text(stmt, column));
-        return Value::Text(std::string(text, sqlite3_column_bytes(stmt, column)));
+        return Value::Text(std::string(text, std::size_t(sqlite3_column_bytes(stmt, column))));
     }
     case SQLITE_BLOB: {
         auto data = static_cast<const unsigned char*>(sqlite3_column_blob(stmt, column));
@@ -119,7 +119,7 @@ Recordset Connection::Query(const std::string& sql) const {
     std::vector<std::vector<Value>> rows;
     while ((rc = sqlite3_step(stmt)) == SQLITE_ROW) {
         std::vector<Value> row;
-        row.reserve(columns);
+        row.reserve(std::size_t(columns));
         for (int c = 0; c < columns; ++c)
             row.push_back(ReadColumn(stmt, c));
         rows.push_back(std::move(row));

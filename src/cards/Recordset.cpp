@@ -105,7 +105,7 @@ void Recordset::SetFilter(const std::string& filter) {
             literal = literal.substr(1, literal.size() - 2);
         }
         for (std::size_t i = 0; i < rows_.size(); ++i) {
-            const Value& v = rows_[i][field];
+            const Value& v = rows_[i][std::size_t(field)];
             bool match = false;
             if (quoted) {
                 match = !v.IsNull() && SameText(v.AsString(), literal);
@@ -134,12 +134,12 @@ int Recordset::FieldIndex(std::string_view name) const {
 const std::vector<Value>& Recordset::CurrentRow() const {
     if (Bof() || Eof())
         NoCurrentRecord();
-    return rows_[visible_[position_]];
+    return rows_[visible_[std::size_t(position_)]];
 }
 
 const Value& Recordset::Field(std::string_view name) const {
     int index = FieldIndex(name);
-    const Value& value = CurrentRow()[index];
+    const Value& value = CurrentRow()[std::size_t(index)];
     if (index != chunkField_) {
         chunkField_ = -1;
         chunkOffset_ = 0;
@@ -153,7 +153,7 @@ long Recordset::ActualSize(std::string_view name) const {
 
 std::vector<unsigned char> Recordset::GetChunk(std::string_view name, long n) {
     int index = FieldIndex(name);
-    const Value& v = CurrentRow()[index];
+    const Value& v = CurrentRow()[std::size_t(index)];
     if (v.GetType() != Value::Type::Blob && v.GetType() != Value::Type::Text &&
         v.GetType() != Value::Type::Null)
         throw RuntimeError(3001, "GetChunk needs a long field (" + std::string(name) + ").");
@@ -163,7 +163,8 @@ std::vector<unsigned char> Recordset::GetChunk(std::string_view name, long n) {
     }
     const std::string& raw = v.Raw();
     std::size_t take = n > 0 ? std::min(raw.size() - chunkOffset_, static_cast<std::size_t>(n)) : 0;
-    std::vector<unsigned char> chunk(raw.begin() + chunkOffset_, raw.begin() + chunkOffset_ + take);
+    const char* first = raw.data() + chunkOffset_;
+    std::vector<unsigned char> chunk(first, first + take);
     chunkOffset_ += take;
     return chunk;
 }

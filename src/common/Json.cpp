@@ -10,7 +10,7 @@ namespace quillane {
 std::string JsonQuote(const std::string& text) {
     std::string out = "\"";
     for (std::size_t i = 0; i < text.size(); ++i) {
-        const unsigned char c = text[i];
+        const auto c = static_cast<unsigned char>(text[i]);
         // C1 control characters (U+0080 to U+009F) are invisible: escaped too.
         if (c == 0xC2 && i + 1 < text.size() && (unsigned char)text[i + 1] >= 0x80 &&
             (unsigned char)text[i + 1] <= 0x9F) {
@@ -72,15 +72,22 @@ std::string Json::Dump() const {
         std::string operator()(const std::string& s) const { return JsonQuote(s); }
         std::string operator()(const std::shared_ptr<Array>& a) const {
             std::string out = "[";
-            for (std::size_t i = 0; i < a->size(); ++i)
-                out += (i ? "," : "") + (*a)[i].Dump();
+            for (std::size_t i = 0; i < a->size(); ++i) {
+                if (i)
+                    out += ',';
+                out += (*a)[i].Dump();
+            }
             return out + "]";
         }
         std::string operator()(const std::shared_ptr<Object>& o) const {
             std::string out = "{";
             bool first = true;
             for (const auto& [k, v] : *o) {
-                out += (first ? "" : ",") + JsonQuote(k) + ":" + v.Dump();
+                if (!first)
+                    out += ',';
+                out += JsonQuote(k);
+                out += ':';
+                out += v.Dump();
                 first = false;
             }
             return out + "}";
