@@ -2,23 +2,16 @@
 
 #include "cards/AccessDialect.h"
 #include "cards/modDB.h"
+#include "common/Ascii.h"
 #include "common/Errors.h"
 
 #include <sqlite3.h>
 
-#include <algorithm>
-#include <cctype>
 #include <filesystem>
 
 namespace quillane::modDB {
 
 namespace {
-
-std::string Upper(std::string s) {
-    std::transform(s.begin(), s.end(), s.begin(),
-                   [](unsigned char c) { return static_cast<char>(std::toupper(c)); });
-    return s;
-}
 
 Value ReadColumn(sqlite3_stmt* stmt, int column) {
     switch (sqlite3_column_type(stmt, column)) {
@@ -43,7 +36,7 @@ Value ReadColumn(sqlite3_stmt* stmt, int column) {
 } // namespace
 
 std::string ConnectionStringValue(const std::string& connectionString, const std::string& key) {
-    std::string wanted = Upper(key);
+    std::string wanted = AsciiUpper(key);
     std::size_t start = 0;
     while (start <= connectionString.size()) {
         std::size_t end = connectionString.find(';', start);
@@ -51,7 +44,7 @@ std::string ConnectionStringValue(const std::string& connectionString, const std
             end = connectionString.size();
         std::string part = connectionString.substr(start, end - start);
         std::size_t eq = part.find('=');
-        if (eq != std::string::npos && Upper(part.substr(0, eq)) == wanted)
+        if (eq != std::string::npos && AsciiUpper(part.substr(0, eq)) == wanted)
             return part.substr(eq + 1);
         start = end + 1;
     }

@@ -1,9 +1,9 @@
 #include "cards/Recordset.h"
 
+#include "common/Ascii.h"
 #include "common/Errors.h"
 
 #include <algorithm>
-#include <cctype>
 #include <charconv>
 
 namespace quillane::modDB {
@@ -19,13 +19,6 @@ namespace {
     throw RuntimeError(3001, "Arguments are of the wrong type, are out of acceptable range, or "
                              "are in conflict with one another (Filter \"" +
                                  filter + "\").");
-}
-
-bool SameText(std::string_view a, std::string_view b) {
-    return a.size() == b.size() && std::equal(a.begin(), a.end(), b.begin(), [](char x, char y) {
-               return std::tolower(static_cast<unsigned char>(x)) ==
-                      std::tolower(static_cast<unsigned char>(y));
-           });
 }
 
 std::string_view Trim(std::string_view s) {
@@ -108,7 +101,7 @@ void Recordset::SetFilter(const std::string& filter) {
             const Value& v = rows_[i][std::size_t(field)];
             bool match = false;
             if (quoted) {
-                match = !v.IsNull() && SameText(v.AsString(), literal);
+                match = !v.IsNull() && SameTextIgnoringCase(v.AsString(), literal);
             } else if (v.GetType() == Value::Type::Integer || v.GetType() == Value::Type::Real) {
                 match = v.AsLong() == number;
             }
@@ -123,7 +116,7 @@ void Recordset::SetFilter(const std::string& filter) {
 
 int Recordset::FieldIndex(std::string_view name) const {
     for (std::size_t i = 0; i < names_.size(); ++i) {
-        if (SameText(names_[i], name))
+        if (SameTextIgnoringCase(names_[i], name))
             return static_cast<int>(i);
     }
     throw RuntimeError(3265, "Item cannot be found in the collection corresponding to the "

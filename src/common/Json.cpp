@@ -1,5 +1,6 @@
 #include "Json.h"
 
+#include "Numbers.h"
 #include "TextFiles.h"
 
 #include <cmath>
@@ -63,11 +64,7 @@ std::string Json::Dump() const {
         std::string operator()(bool b) const { return b ? "true" : "false"; }
         std::string operator()(std::int64_t n) const { return std::to_string(n); }
         std::string operator()(double d) const {
-            if (!std::isfinite(d))
-                return "null";
-            char buf[32];
-            std::snprintf(buf, sizeof buf, "%.9g", d);
-            return buf;
+            return std::isfinite(d) ? WriteNumber(d, 9) : "null";
         }
         std::string operator()(const std::string& s) const { return JsonQuote(s); }
         std::string operator()(const std::shared_ptr<Array>& a) const {
@@ -265,10 +262,13 @@ private:
         if (start == i_)
             return std::nullopt;
         std::string num = t_.substr(start, i_ - start);
+        if (num.find_first_of(".eE") != std::string::npos) {
+            if (auto d = ReadNumber(num))
+                return Json(*d);
+            return std::nullopt;
+        }
         try {
-            if (num.find_first_of(".eE") == std::string::npos)
-                return Json(std::stoll(num));
-            return Json(std::stod(num));
+            return Json(std::stoll(num));
         } catch (...) {
             return std::nullopt;
         }

@@ -2,9 +2,8 @@
 // The long meaning texts are in RuneMeanings.cpp.
 #include "runes/modLearnRunes.h"
 
+#include "common/Ascii.h"
 #include "runes/RuneMeanings.h"
-
-#include <cctype>
 
 namespace quillane::modLearnRunes {
 
@@ -91,7 +90,7 @@ std::string ImgFileName(int entry) {
     }
     std::string name = "stone-";
     for (char c : kImgKey[std::size_t(entry - 1)]) {
-        name += c == ' ' ? '-' : static_cast<char>(std::tolower(static_cast<unsigned char>(c)));
+        name += c == ' ' ? '-' : AsciiLower(c);
     }
     return name + ".svg";
 }
