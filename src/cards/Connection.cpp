@@ -4,10 +4,9 @@
 #include "cards/modDB.h"
 #include "common/Ascii.h"
 #include "common/Errors.h"
+#include "common/Paths.h"
 
 #include <sqlite3.h>
-
-#include <filesystem>
 
 namespace quillane::modDB {
 
@@ -66,7 +65,7 @@ void Connection::Open() {
         throw FatalError(path, "The card database refused the password.");
 
     std::error_code ec;
-    if (!std::filesystem::is_regular_file(path, ec))
+    if (!std::filesystem::is_regular_file(PathFromUtf8(path), ec))
         throw FatalError(path, "The card database " + path + " cannot be found.");
 
     sqlite3* db = nullptr;

@@ -1,6 +1,7 @@
 #include "TextFiles.h"
 
 #include "Errors.h"
+#include "Paths.h"
 
 #include <array>
 #include <cstdint>
@@ -128,14 +129,14 @@ std::string EncodeFileText(const std::string& text) {
 
 bool FileExists(const std::string& path) {
     std::error_code ec;
-    return std::filesystem::exists(path, ec);
+    return std::filesystem::exists(PathFromUtf8(path), ec);
 }
 
 std::vector<std::string> ReadLines(const std::string& path) {
     std::error_code ec;
-    if (std::filesystem::is_directory(path, ec))
+    if (std::filesystem::is_directory(PathFromUtf8(path), ec))
         throw RuntimeError(75, "Path/File access error");
-    std::ifstream in(path, std::ios::binary);
+    std::ifstream in(PathFromUtf8(path), std::ios::binary);
     if (!in)
         throw RuntimeError(53, "File not found");
     const std::string bytes((std::istreambuf_iterator<char>(in)), std::istreambuf_iterator<char>());
@@ -164,22 +165,22 @@ void ReplaceFile(const std::string& path, const std::string& text) {
     const std::string temporary = path + ".saving";
     const std::string bytes = EncodeFileText(text);
     {
-        std::ofstream out(temporary, std::ios::binary | std::ios::trunc);
+        std::ofstream out(PathFromUtf8(temporary), std::ios::binary | std::ios::trunc);
         if (!out)
             throw RuntimeError(75, "Path/File access error");
         out.write(bytes.data(), std::streamsize(bytes.size()));
         out.close();
         if (!out) {
             std::error_code ec;
-            std::filesystem::remove(temporary, ec);
+            std::filesystem::remove(PathFromUtf8(temporary), ec);
             throw RuntimeError(57, "Device I/O error");
         }
     }
     std::error_code ec;
-    std::filesystem::rename(temporary, path, ec);
+    std::filesystem::rename(PathFromUtf8(temporary), PathFromUtf8(path), ec);
     if (ec) {
         std::error_code ignored;
-        std::filesystem::remove(temporary, ignored);
+        std::filesystem::remove(PathFromUtf8(temporary), ignored);
         throw RuntimeError(75, "Path/File access error");
     }
 }

@@ -1,12 +1,17 @@
 // The desktop program runs under the user's locale (Qt sets it at start), and
 // the C library then writes "0,5", reads "1.5" as 1, and under Turkish leaves
 // 'i' as it is when upper-casing. The logic's numbers, names and files stay
-// the same under such locales.
+// the same under such locales, and so do its files in folders of any name.
 #include "cards/Connection.h"
 #include "cards/Recordset.h"
+#include "cards/modImageDB.h"
 #include "common/Json.h"
 #include "common/Numbers.h"
+#include "common/Paths.h"
+#include "common/TextFiles.h"
 #include "runes/modLearnRunes.h"
+
+#include "DriveSession.h"
 
 #include <gtest/gtest.h>
 
@@ -47,6 +52,21 @@ TEST_P(UnderLocale, NamesMatchWithoutRegardToCase) {
     EXPECT_EQ(modDB::ConnectionStringValue("driver=x;Dbq=learn.dll;pwd=y", "DBQ"), "learn.dll");
     EXPECT_EQ(modLearnRunes::ImgFileName(11), "stone-11-isa.svg");
     EXPECT_EQ(modLearnRunes::ImgFileName(22), "stone-22-ingwaz.svg");
+}
+
+// Folder names are UTF-8 text to the program on every system.
+TEST_P(UnderLocale, FilesLiveInFoldersWithAnyLetters) {
+    quillane::testing::ScratchDir scratch;
+    const std::string folder = PathToUtf8(scratch.Path()) + "/\xC3\x9C"
+                                                            "bungen \xC4\x9F\xC4\xB1";
+    std::filesystem::create_directory(PathFromUtf8(folder));
+    const std::string goal = folder + "/Goal1.txt";
+    ReplaceFile(goal, "caf\xC3\xA9\r\n");
+    EXPECT_TRUE(FileExists(goal));
+    EXPECT_EQ(ReadLines(goal), std::vector<std::string>{"caf\xC3\xA9"});
+    modImageDB::SetTempFolderSource([&] { return folder; });
+    EXPECT_EQ(modImageDB::MakeTempFileName("TMP").rfind(folder + "/TMP", 0), 0u);
+    modImageDB::SetTempFolderSource(nullptr);
 }
 
 INSTANTIATE_TEST_SUITE_P(Locales, UnderLocale, ::testing::Values("de_DE.UTF-8", "tr_TR.UTF-8"));

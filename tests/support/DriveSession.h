@@ -1,5 +1,7 @@
 #pragma once
 // Runs quillane-drive as a process: a script in, one answer a command out.
+#include "RunProgram.h"
+
 #include <cstdio>
 #include <cstdlib>
 #include <filesystem>
@@ -33,13 +35,6 @@ private:
     std::filesystem::path path_;
 };
 
-inline std::string ShellQuote(const std::string& s) {
-    std::string out = "'";
-    for (char c : s)
-        out += c == '\'' ? std::string("'\\''") : std::string(1, c);
-    return out + "'";
-}
-
 // Runs one driver process over the commands and answers the lines it printed.
 inline std::vector<std::string> Drive(const std::vector<std::string>& options,
                                       const std::vector<std::string>& commands) {
@@ -60,20 +55,13 @@ inline std::vector<std::string> Drive(const std::vector<std::string>& options,
     };
     if (!drive)
         return padded({});
-    ScratchDir io;
-    {
-        std::ofstream script(io.Path() / "in.txt", std::ios::binary);
-        for (const auto& c : commands)
-            script << c << "\n";
-    }
-    std::string command = ShellQuote(drive);
-    for (const auto& o : options)
-        command += " " + ShellQuote(o);
-    command += " < " + ShellQuote((io.Path() / "in.txt").string()) + " > " +
-               ShellQuote((io.Path() / "out.txt").string());
-    if (std::system(command.c_str()) != 0)
+    std::string script;
+    for (const auto& c : commands)
+        script += c + '\n';
+    const auto output = RunProgram(drive, options, script);
+    if (!output)
         return padded({});
-    std::ifstream answers(io.Path() / "out.txt", std::ios::binary);
+    std::istringstream answers(*output);
     std::vector<std::string> lines;
     for (std::string line; std::getline(answers, line);)
         lines.push_back(line);

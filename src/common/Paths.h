@@ -1,0 +1,19 @@
+#pragma once
+// Paths in the program are UTF-8 text. The standard library reads a plain
+// string as the system's narrow encoding, which on Windows is the ANSI code
+// page and not UTF-8, so a path goes to and from std::filesystem through these.
+#include <filesystem>
+#include <string>
+#include <system_error>
+
+namespace quillane {
+
+std::filesystem::path PathFromUtf8(const std::string& text);
+std::string PathToUtf8(const std::filesystem::path& path);
+
+// Renames `from` over `to`, which may exist. On Windows a file that another
+// program holds open for a moment (a virus scanner, an indexer) cannot be
+// replaced: the rename is tried again for about a second before it fails.
+std::error_code RenameOver(const std::filesystem::path& from, const std::filesystem::path& to);
+
+} // namespace quillane
