@@ -1,10 +1,13 @@
 #!/usr/bin/env bash
-# Installs what is missing, builds Quillane with AddressSanitizer and
-# UndefinedBehaviorSanitizer, and runs every test.
+# Installs what is missing, checks the portable builds (scripts/portability.sh),
+# builds Quillane with AddressSanitizer and UndefinedBehaviorSanitizer, and
+# runs every test. Warnings are errors throughout.
 set -euo pipefail
 cd "$(dirname "$0")/.."
 scripts/install-deps.sh
-cmake -S . -B build/asan -DCMAKE_BUILD_TYPE=Debug -DQUILLANE_SANITIZE=ON >/dev/null
+scripts/portability.sh
+cmake -S . -B build/asan -DCMAKE_BUILD_TYPE=Debug -DQUILLANE_SANITIZE=ON \
+  -DCMAKE_COMPILE_WARNING_AS_ERROR=ON >/dev/null
 cmake --build build/asan -j"$(nproc)"
 export ASAN_OPTIONS="detect_leaks=1:abort_on_error=0"
 export LSAN_OPTIONS="suppressions=$PWD/tests/lsan.supp:print_suppressions=0"
