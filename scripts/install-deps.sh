@@ -9,19 +9,28 @@ packages=(
   libsqlite3-dev libgtest-dev
   fonts-dejavu-core
   xvfb xauth xdotool imagemagick poppler-utils
-  # libFuzzer: clang and its runtime libraries, of the same version
-  clang libclang-rt-dev
+  locales
+  # The logic's builds with Clang and libc++, and for Windows with MinGW-w64;
+  # libFuzzer needs clang's runtime libraries of the same version.
+  clang libclang-rt-dev libc++-dev libc++abi-dev g++-mingw-w64-x86-64-posix
 )
+# The locales that the locale tests run under.
+locales=(de_DE tr_TR)
+
+sudo=""
+[ "$(id -u)" -eq 0 ] || sudo="sudo"
 
 missing=()
 for p in "${packages[@]}"; do
   dpkg-query -W -f='${Status}' "$p" 2>/dev/null | grep -q "install ok installed" || missing+=("$p")
 done
-[ ${#missing[@]} -eq 0 ] && exit 0
+if [ ${#missing[@]} -gt 0 ]; then
+  echo "Installing: ${missing[*]}"
+  export DEBIAN_FRONTEND=noninteractive
+  $sudo apt-get update -qq
+  $sudo apt-get install -y -qq --no-install-recommends "${missing[@]}" >/dev/null
+fi
 
-echo "Installing: ${missing[*]}"
-sudo=""
-[ "$(id -u)" -eq 0 ] || sudo="sudo"
-export DEBIAN_FRONTEND=noninteractive
-$sudo apt-get update -qq
-$sudo apt-get install -y -qq --no-install-recommends "${missing[@]}" >/dev/null
+for l in "${locales[@]}"; do
+  locale -a | grep -qx "$l.utf8" || $sudo localedef -i "$l" -f UTF-8 "$l.UTF-8"
+done

@@ -1,11 +1,14 @@
 #!/usr/bin/env bash
-# Installs what is missing, builds Quillane with AddressSanitizer and
-# UndefinedBehaviorSanitizer, runs every test, and fuzzes each fuzz target for
-# a few seconds.
+# Installs what is missing, checks the portable builds (scripts/portability.sh),
+# builds Quillane with AddressSanitizer and UndefinedBehaviorSanitizer, runs
+# every test, and fuzzes each fuzz target for a few seconds. Warnings are
+# errors throughout.
 set -euo pipefail
 cd "$(dirname "$0")/.."
 scripts/install-deps.sh
-cmake -S . -B build/asan -DCMAKE_BUILD_TYPE=Debug -DQUILLANE_SANITIZE=ON >/dev/null
+scripts/portability.sh
+cmake -S . -B build/asan -DCMAKE_BUILD_TYPE=Debug -DQUILLANE_SANITIZE=ON \
+  -DCMAKE_COMPILE_WARNING_AS_ERROR=ON >/dev/null
 cmake --build build/asan -j"$(nproc)"
 # The sanitizers' options come with each test (tests/CMakeLists.txt).
 (cd build/asan && ctest --output-on-failure -j"$(nproc)" --timeout 300)

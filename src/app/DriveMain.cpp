@@ -7,10 +7,15 @@
 #include <QCoreApplication>
 #include <QDir>
 #include <QFileInfo>
+#include <QStringList>
 #include <QTemporaryDir>
 #include <cstdio>
 #include <iostream>
 #include <memory>
+#ifdef _WIN32
+#include <fcntl.h>
+#include <io.h>
+#endif
 
 namespace {
 
@@ -27,11 +32,22 @@ int Usage(const char* message) {
 
 int main(int argc, char** argv) {
     QCoreApplication qt(argc, argv);
+#ifdef _WIN32
+    // Each answer ends in "\n", as elsewhere, not in a text-mode stream's "\r\n".
+    _setmode(_fileno(stdout), _O_BINARY);
+#endif
     quillane::drive::DriverOptions options;
     options.programDir = QCoreApplication::applicationDirPath().toStdString();
-    for (int i = 1; i < argc; ++i) {
-        const std::string arg = argv[i];
-        auto value = [&]() -> const char* { return i + 1 < argc ? argv[++i] : nullptr; };
+    // The arguments as Qt has them in Unicode: on Windows argv is in the ANSI
+    // code page, which cannot hold every folder's name. Values are UTF-8.
+    std::vector<std::string> utf8;
+    for (const QString& a : QCoreApplication::arguments())
+        utf8.push_back(a.toStdString());
+    for (std::size_t i = 1; i < utf8.size(); ++i) {
+        const std::string arg = utf8[i];
+        auto value = [&]() -> const char* {
+            return i + 1 < utf8.size() ? utf8[++i].c_str() : nullptr;
+        };
         if (arg == "--other-instance") {
             options.otherInstance = true;
         } else if (arg == "--no-printer") {
@@ -54,9 +70,10 @@ int main(int argc, char** argv) {
             if (!v)
                 return Usage(("missing value for " + arg).c_str());
             if (arg == "--program-dir")
-                options.programDir = QFileInfo(v).absoluteFilePath().toStdString();
+                options.programDir =
+                    QFileInfo(QString::fromUtf8(v)).absoluteFilePath().toStdString();
             else if (arg == "--user-dir")
-                options.userDir = QFileInfo(v).absoluteFilePath().toStdString();
+                options.userDir = QFileInfo(QString::fromUtf8(v)).absoluteFilePath().toStdString();
             else if (arg == "--args")
                 options.args = v;
             else if (arg == "--today") {

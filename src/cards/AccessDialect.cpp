@@ -1,5 +1,7 @@
 #include "cards/AccessDialect.h"
 
+#include "common/Ascii.h"
+
 #include <cctype>
 #include <string_view>
 
@@ -15,7 +17,7 @@ bool SameWord(std::string_view a, std::string_view b) {
     if (a.size() != b.size())
         return false;
     for (std::size_t i = 0; i < a.size(); ++i) {
-        if (std::tolower(static_cast<unsigned char>(a[i])) != b[i])
+        if (AsciiLower(a[i]) != b[i])
             return false;
     }
     return true;

@@ -2,28 +2,22 @@
 
 #include "cards/AccessDialect.h"
 #include "cards/modDB.h"
+#include "common/Ascii.h"
 #include "common/Errors.h"
+#include "common/Paths.h"
 
 #include <sqlite3.h>
 
-#include <algorithm>
-#include <cctype>
 #include <filesystem>
 #include <optional>
 
-#if __has_include(<unistd.h>)
+#if defined(__unix__) || defined(__APPLE__)
 #include <unistd.h>
 #endif
 
 namespace quillane::modDB {
 
 namespace {
-
-std::string Upper(std::string s) {
-    std::transform(s.begin(), s.end(), s.begin(),
-                   [](unsigned char c) { return static_cast<char>(std::toupper(c)); });
-    return s;
-}
 
 Value ReadColumn(sqlite3_stmt* stmt, int column) {
     switch (sqlite3_column_type(stmt, column)) {
@@ -33,7 +27,7 @@ Value ReadColumn(sqlite3_stmt* stmt, int column) {
         return Value::Real(sqlite3_column_double(stmt, column));
     case SQLITE_TEXT: {
         auto text = reinterpret_cast<const char*>(sqlite3_column_text(stmt, column));
-        return Value::Text(std::string(text, sqlite3_column_bytes(stmt, column)));
+        return Value::Text(std::string(text, std::size_t(sqlite3_column_bytes(stmt, column))));
     }
     case SQLITE_BLOB: {
         auto data = static_cast<const unsigned char*>(sqlite3_column_blob(stmt, column));
@@ -56,7 +50,8 @@ bool Writable(const std::filesystem::path& path) {
         fs::perms::owner_write | fs::perms::group_write | fs::perms::others_write;
     if (ec || (perms & anyWrite) == fs::perms::none)
         return false;
-#if __has_include(<unistd.h>)
+#if defined(__unix__) || defined(__APPLE__)
+    // The rights for this user, which the permission bits alone don't tell.
     return ::access(path.c_str(), W_OK) == 0;
 #else
     return true;
@@ -68,16 +63,28 @@ bool Writable(const std::filesystem::path& path) {
 // immutable: it takes no locks and passes over a journal or a log that a
 // crashed writer left, which it could neither play back nor clear.
 bool CannotChange(const std::string& path) {
-    const std::filesystem::path file(path);
+    const std::filesystem::path file = PathFromUtf8(path);
     const std::filesystem::path folder = file.has_parent_path() ? file.parent_path() : ".";
     return !Writable(file) || !Writable(folder);
 }
 
 // The file as an SQLite URI: read only, and immutable where it can't change.
 std::string ReadOnlyUri(const std::string& path) {
-    std::string uri = path.rfind('/', 0) == 0 ? "file://" : "file:";
+    // An absolute path takes an empty authority: "file:///home/..." and, on
+    // Windows, "file:///C:/...".
+#ifdef _WIN32
+    constexpr bool windows = true;
+#else
+    constexpr bool windows = false;
+#endif
+    const bool drive = windows && path.size() > 1 && path[1] == ':';
+    std::string uri = path.rfind('/', 0) == 0 ? "file://" : drive ? "file:///" : "file:";
     for (char c : path)
-        uri += c == '%' ? "%25" : c == '?' ? "%3f" : c == '#' ? "%23" : std::string(1, c);
+        uri += c == '%'               ? "%25"
+               : c == '?'             ? "%3f"
+               : c == '#'             ? "%23"
+               : windows && c == '\\' ? "/"
+                                      : std::string(1, c);
     return uri + "?mode=ro" + (CannotChange(path) ? "&immutable=1" : "");
 }
 
@@ -87,8 +94,9 @@ std::optional<std::string> WhatHappened(sqlite3* db, int rc, const std::string& 
     const std::string why = db ? sqlite3_errmsg(db) : sqlite3_errstr(rc);
     const std::string database = "The card database " + path;
     std::error_code ec;
-    const std::string left =
-        std::filesystem::exists(path + "-wal", ec) ? path + "-wal" : path + "-journal";
+    const std::string left = std::filesystem::exists(PathFromUtf8(path + "-wal"), ec)
+                                 ? path + "-wal"
+                                 : path + "-journal";
     switch (db ? sqlite3_extended_errcode(db) : rc) {
     case SQLITE_READONLY_ROLLBACK:
     case SQLITE_READONLY_RECOVERY:
@@ -123,7 +131,7 @@ std::optional<std::string> WhatHappened(sqlite3* db, int rc, const std::string& 
 } // namespace
 
 std::string ConnectionStringValue(const std::string& connectionString, const std::string& key) {
-    std::string wanted = Upper(key);
+    std::string wanted = AsciiUpper(key);
     std::size_t start = 0;
     while (start <= connectionString.size()) {
         std::size_t end = connectionString.find(';', start);
@@ -131,7 +139,7 @@ std::string ConnectionStringValue(const std::string& connectionString, const std
             end = connectionString.size();
         std::string part = connectionString.substr(start, end - start);
         std::size_t eq = part.find('=');
-        if (eq != std::string::npos && Upper(part.substr(0, eq)) == wanted)
+        if (eq != std::string::npos && AsciiUpper(part.substr(0, eq)) == wanted)
             return part.substr(eq + 1);
         start = end + 1;
     }
@@ -153,9 +161,9 @@ void Connection::Open() {
         throw FatalError(path, "The card database refused the password.");
 
     std::error_code ec;
-    if (!std::filesystem::exists(path, ec))
+    if (!std::filesystem::exists(PathFromUtf8(path), ec))
         throw FatalError(path, "The card database " + path + " cannot be found.");
-    if (!std::filesystem::is_regular_file(path, ec))
+    if (!std::filesystem::is_regular_file(PathFromUtf8(path), ec))
         throw FatalError(path, "The card database " + path + " is not a file.");
 
     sqlite3* db = nullptr;
@@ -205,7 +213,7 @@ Recordset Connection::Query(const std::string& sql) const {
     std::vector<std::vector<Value>> rows;
     while ((rc = sqlite3_step(stmt)) == SQLITE_ROW) {
         std::vector<Value> row;
-        row.reserve(columns);
+        row.reserve(std::size_t(columns));
         for (int c = 0; c < columns; ++c)
             row.push_back(ReadColumn(stmt, c));
         rows.push_back(std::move(row));

@@ -1,9 +1,9 @@
 #include "cards/Recordset.h"
 
+#include "common/Ascii.h"
 #include "common/Errors.h"
 
 #include <algorithm>
-#include <cctype>
 #include <charconv>
 
 namespace quillane::modDB {
@@ -19,13 +19,6 @@ namespace {
     throw RuntimeError(3001, "Arguments are of the wrong type, are out of acceptable range, or "
                              "are in conflict with one another (Filter \"" +
                                  filter + "\").");
-}
-
-bool SameText(std::string_view a, std::string_view b) {
-    return a.size() == b.size() && std::equal(a.begin(), a.end(), b.begin(), [](char x, char y) {
-               return std::tolower(static_cast<unsigned char>(x)) ==
-                      std::tolower(static_cast<unsigned char>(y));
-           });
 }
 
 std::string_view Trim(std::string_view s) {
@@ -105,10 +98,10 @@ void Recordset::SetFilter(const std::string& filter) {
             literal = literal.substr(1, literal.size() - 2);
         }
         for (std::size_t i = 0; i < rows_.size(); ++i) {
-            const Value& v = rows_[i][field];
+            const Value& v = rows_[i][std::size_t(field)];
             bool match = false;
             if (quoted) {
-                match = !v.IsNull() && SameText(v.AsString(), literal);
+                match = !v.IsNull() && SameTextIgnoringCase(v.AsString(), literal);
             } else if (v.GetType() == Value::Type::Integer || v.GetType() == Value::Type::Real) {
                 match = v.AsLong() == number;
             }
@@ -123,7 +116,7 @@ void Recordset::SetFilter(const std::string& filter) {
 
 int Recordset::FieldIndex(std::string_view name) const {
     for (std::size_t i = 0; i < names_.size(); ++i) {
-        if (SameText(names_[i], name))
+        if (SameTextIgnoringCase(names_[i], name))
             return static_cast<int>(i);
     }
     throw RuntimeError(3265, "Item cannot be found in the collection corresponding to the "
@@ -134,12 +127,12 @@ int Recordset::FieldIndex(std::string_view name) const {
 const std::vector<Value>& Recordset::CurrentRow() const {
     if (Bof() || Eof())
         NoCurrentRecord();
-    return rows_[visible_[position_]];
+    return rows_[visible_[std::size_t(position_)]];
 }
 
 const Value& Recordset::Field(std::string_view name) const {
     int index = FieldIndex(name);
-    const Value& value = CurrentRow()[index];
+    const Value& value = CurrentRow()[std::size_t(index)];
     if (index != chunkField_) {
         chunkField_ = -1;
         chunkOffset_ = 0;
@@ -153,7 +146,7 @@ long Recordset::ActualSize(std::string_view name) const {
 
 std::vector<unsigned char> Recordset::GetChunk(std::string_view name, long n) {
     int index = FieldIndex(name);
-    const Value& v = CurrentRow()[index];
+    const Value& v = CurrentRow()[std::size_t(index)];
     if (v.GetType() != Value::Type::Blob && v.GetType() != Value::Type::Text &&
         v.GetType() != Value::Type::Null)
         throw RuntimeError(3001, "GetChunk needs a long field (" + std::string(name) + ").");
@@ -163,7 +156,8 @@ std::vector<unsigned char> Recordset::GetChunk(std::string_view name, long n) {
     }
     const std::string& raw = v.Raw();
     std::size_t take = n > 0 ? std::min(raw.size() - chunkOffset_, static_cast<std::size_t>(n)) : 0;
-    std::vector<unsigned char> chunk(raw.begin() + chunkOffset_, raw.begin() + chunkOffset_ + take);
+    const char* first = raw.data() + chunkOffset_;
+    std::vector<unsigned char> chunk(first, first + take);
     chunkOffset_ += take;
     return chunk;
 }

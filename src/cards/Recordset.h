@@ -43,7 +43,7 @@ public:
     const std::string& Filter() const { return filter_; }
 
     int FieldCount() const { return static_cast<int>(names_.size()); }
-    const std::string& FieldName(int index) const { return names_.at(index); }
+    const std::string& FieldName(int index) const { return names_.at(std::size_t(index)); }
     // The field of the current row, found by name without regard to case.
     const Value& Field(std::string_view name) const;
     // Length in bytes of a long field at the current row (0 for Null).

@@ -1,12 +1,13 @@
 #include "cards/modImageDB.h"
 
 #include "common/Errors.h"
+#include "common/Paths.h"
 
-#include <cstdlib>
 #include <cstring>
 #include <exception>
+#include <fstream>
 #include <memory>
-#include <unistd.h>
+#include <random>
 
 namespace quillane::modImageDB {
 
@@ -16,8 +17,8 @@ IPictureDecoder* gDecoder = nullptr;
 std::string strTempPath;
 
 std::string SystemTempFolder() {
-    const char* dir = std::getenv("TMPDIR");
-    return dir && *dir ? dir : "/tmp";
+    std::error_code ec;
+    return PathToUtf8(std::filesystem::temp_directory_path(ec));
 }
 
 std::function<std::string()> gTempFolderSource = SystemTempFolder;
@@ -74,14 +75,26 @@ std::string MakeTempFileName(const std::string& prefix) {
             folder += '/';
         strTempPath = folder;
     }
-    std::string name = strTempPath + prefix + "XXXXXX.tmp";
-    std::vector<char> buffer(name.begin(), name.end());
-    buffer.push_back('\0');
-    int fd = ::mkstemps(buffer.data(), 4);
-    if (fd < 0)
-        throw RuntimeError(75, "Path/File access error (" + name + ")");
-    ::close(fd);
-    return std::string(buffer.data());
+    // Six letters or digits drawn at random until a name is free. (The standard
+    // library has no "create only if new"; with 62^6 names, another process
+    // taking the same one between the test and the opening is left to chance.)
+    static constexpr char kLetters[] =
+        "ABCDEFGHIJKLMNOPQRSTUVWXYZabcdefghijklmnopqrstuvwxyz0123456789";
+    std::random_device random;
+    std::uniform_int_distribution<std::size_t> pick(0, sizeof kLetters - 2);
+    for (int attempt = 0; attempt < 100; ++attempt) {
+        std::string name = strTempPath + prefix;
+        for (int i = 0; i < 6; ++i)
+            name += kLetters[pick(random)];
+        name += ".tmp";
+        const std::filesystem::path path = PathFromUtf8(name);
+        std::error_code ec;
+        if (std::filesystem::exists(path, ec) || ec)
+            continue;
+        if (std::ofstream(path, std::ios::binary))
+            return name;
+    }
+    throw RuntimeError(75, "Path/File access error (" + strTempPath + prefix + "XXXXXX.tmp)");
 }
 
 void SetTempFolderSource(std::function<std::string()> source) {

@@ -27,8 +27,9 @@ bool LoadPictureFromField(Picture& target, modDB::Recordset& recordSet,
 // from the prefix. The folder is asked for once and kept, with a trailing '/'.
 std::string MakeTempFileName(const std::string& prefix);
 
-// Where MakeTempFileName asks for the temporary folder (default: TMPDIR, else
-// "/tmp"). Setting a source forgets the folder kept so far.
+// Where MakeTempFileName asks for the temporary folder (default: the system's,
+// TMPDIR or else "/tmp" on Linux). Setting a source forgets the folder kept so
+// far.
 void SetTempFolderSource(std::function<std::string()> source);
 
 } // namespace quillane::modImageDB

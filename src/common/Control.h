@@ -4,7 +4,7 @@
 // user's action would: a check box or option whose value changes runs its
 // Click, a text box whose text changes runs its Change.
 #include "Picture.h"
-#include "Services.h"
+#include "TextRun.h"
 
 #include <functional>
 #include <memory>

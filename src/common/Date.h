@@ -10,15 +10,16 @@ class Date {
 public:
     Date() = default;
     Date(int year, int month, int day)
-        : ymd_{std::chrono::year{year}, std::chrono::month(month), std::chrono::day(day)} {}
+        : ymd_{std::chrono::year{year}, std::chrono::month(unsigned(month)),
+               std::chrono::day(unsigned(day))} {}
 
     int Year() const { return int(ymd_.year()); }
     int Month() const { return int(unsigned(ymd_.month())); }
     int Day() const { return int(unsigned(ymd_.day())); }
     bool Valid() const { return ymd_.ok(); }
 
-    // Days since 1970-01-01.
-    long Serial() const { return std::chrono::sys_days(ymd_).time_since_epoch().count(); }
+    // Days since 1970-01-01 (a year's range of days fits in 32 bits).
+    long Serial() const { return long(std::chrono::sys_days(ymd_).time_since_epoch().count()); }
     static Date FromSerial(long days) {
         Date d;
         d.ymd_ = std::chrono::year_month_day(std::chrono::sys_days(std::chrono::days(days)));

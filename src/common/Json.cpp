@@ -1,5 +1,6 @@
 #include "Json.h"
 
+#include "Numbers.h"
 #include "TextFiles.h"
 
 #include <cmath>
@@ -15,7 +16,7 @@ std::string Escape(const std::string& text, bool quoted) {
     std::string out;
     out.reserve(text.size() + 2);
     for (std::size_t i = 0; i < text.size(); ++i) {
-        const unsigned char c = text[i];
+        const auto c = static_cast<unsigned char>(text[i]);
         // C1 control characters (U+0080 to U+009F) are invisible: escaped too.
         if (c == 0xC2 && i + 1 < text.size() && (unsigned char)text[i + 1] >= 0x80 &&
             (unsigned char)text[i + 1] <= 0x9F) {
@@ -56,7 +57,12 @@ std::string Escape(const std::string& text, bool quoted) {
 } // namespace
 
 std::string JsonQuote(const std::string& text) {
-    return "\"" + Escape(text, true) + "\"";
+    // Appended, not "\"" + text: GCC 12 warns falsely (-Wrestrict) on
+    // a literal put before a temporary string.
+    std::string quoted(1, '"');
+    quoted += Escape(text, true);
+    quoted += '"';
+    return quoted;
 }
 
 std::string EscapeControls(const std::string& text) {
@@ -78,24 +84,27 @@ std::string Json::Dump() const {
         std::string operator()(bool b) const { return b ? "true" : "false"; }
         std::string operator()(std::int64_t n) const { return std::to_string(n); }
         std::string operator()(double d) const {
-            if (!std::isfinite(d))
-                return "null";
-            char buf[32];
-            std::snprintf(buf, sizeof buf, "%.9g", d);
-            return buf;
+            return std::isfinite(d) ? WriteNumber(d, 9) : "null";
         }
         std::string operator()(const std::string& s) const { return JsonQuote(s); }
         std::string operator()(const std::shared_ptr<Array>& a) const {
             std::string out = "[";
-            for (std::size_t i = 0; i < a->size(); ++i)
-                out += (i ? "," : "") + (*a)[i].Dump();
+            for (std::size_t i = 0; i < a->size(); ++i) {
+                if (i)
+                    out += ',';
+                out += (*a)[i].Dump();
+            }
             return out + "]";
         }
         std::string operator()(const std::shared_ptr<Object>& o) const {
             std::string out = "{";
             bool first = true;
             for (const auto& [k, v] : *o) {
-                out += (first ? "" : ",") + JsonQuote(k) + ":" + v.Dump();
+                if (!first)
+                    out += ',';
+                out += JsonQuote(k);
+                out += ':';
+                out += v.Dump();
                 first = false;
             }
             return out + "}";
@@ -273,10 +282,13 @@ private:
         if (start == i_)
             return std::nullopt;
         std::string num = t_.substr(start, i_ - start);
+        if (num.find_first_of(".eE") != std::string::npos) {
+            if (auto d = ReadNumber(num))
+                return Json(*d);
+            return std::nullopt;
+        }
         try {
-            if (num.find_first_of(".eE") == std::string::npos)
-                return Json(std::stoll(num));
-            return Json(std::stod(num));
+            return Json(std::stoll(num));
         } catch (...) {
             return std::nullopt;
         }

@@ -2,7 +2,9 @@
 // The number rules the program's draws and reports use.
 #include <cmath>
 #include <cstdint>
+#include <optional>
 #include <string>
+#include <string_view>
 
 namespace quillane {
 
@@ -24,6 +26,17 @@ inline std::string Format00(long n) {
         digits.insert(0, 2 - digits.size(), '0');
     return (n < 0 ? "-" : "") + digits;
 }
+
+// Numbers read and written the same whatever the user's locale, with '.' as
+// the decimal point.
+//
+// The decimal number at the start of a text, after blanks, as C's strtod reads
+// it in the "C" locale (hexadecimal, infinite and NaN forms aside); nothing
+// when the text starts with no number or the number is out of range.
+std::optional<double> ReadNumber(std::string_view text);
+// The number with at most that many significant digits, as "%.*g" writes it
+// in the "C" locale.
+std::string WriteNumber(double value, int significantDigits);
 
 // Booleans in state are 0 and -1.
 constexpr std::int16_t vbTrue = -1;

@@ -3,6 +3,7 @@
 // injected and never calls the platform directly; the desktop program
 // implements them on Qt, the driver with recording versions.
 #include "Date.h"
+#include "TextRun.h"
 
 #include <functional>
 #include <optional>
@@ -26,13 +27,6 @@ class IBrowser {
 public:
     virtual ~IBrowser() = default;
     virtual void Open(const std::string& address) = 0;
-};
-
-// A run of text of a printed or shown report.
-struct TextRun {
-    std::string text;
-    bool bold = false;
-    double pointSize = 0; // 0: the default size
 };
 
 class IPrinter {

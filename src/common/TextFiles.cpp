@@ -1,6 +1,7 @@
 #include "TextFiles.h"
 
 #include "Errors.h"
+#include "Paths.h"
 
 #include <algorithm>
 #include <array>
@@ -188,17 +189,17 @@ std::vector<std::string> SplitLines(const std::string& text) {
 
 bool FileExists(const std::string& path) {
     std::error_code ec;
-    return std::filesystem::exists(path, ec);
+    return std::filesystem::exists(PathFromUtf8(path), ec);
 }
 
 std::vector<std::string> ReadLines(const std::string& path) {
     // Only a plain file is read: a folder can't be, and a pipe or a device
     // might never end.
     std::error_code ec;
-    const auto status = std::filesystem::status(path, ec);
+    const auto status = std::filesystem::status(PathFromUtf8(path), ec);
     if (std::filesystem::exists(status) && !std::filesystem::is_regular_file(status))
         throw RuntimeError(75, "Path/File access error");
-    std::ifstream in(path, std::ios::binary);
+    std::ifstream in(PathFromUtf8(path), std::ios::binary);
     if (!in)
         throw RuntimeError(53, "File not found");
     std::ostringstream bytes;
@@ -220,7 +221,7 @@ bool MayChange(const fs::path& file, fs::perms perms) {
         fs::perms::owner_write | fs::perms::group_write | fs::perms::others_write;
     if ((perms & anyWrite) == fs::perms::none)
         return false;
-    std::FILE* probe = std::fopen(file.string().c_str(), "r+b");
+    std::FILE* probe = OpenFile(file, "r+b");
     if (!probe)
         return false;
     std::fclose(probe);
@@ -234,8 +235,13 @@ std::FILE* CreateBeside(const fs::path& target, fs::path& made) {
     for (int attempt = 0; attempt < 100; ++attempt) {
         char suffix[16];
         std::snprintf(suffix, sizeof suffix, "%08x", unsigned(entropy()));
-        made = target.parent_path() / ("." + target.filename().string() + "-" + suffix);
-        if (std::FILE* file = std::fopen(made.string().c_str(), "wbx"))
+        made = target.parent_path();
+        std::string name(1, '.');
+        name += PathToUtf8(target.filename());
+        name += '-';
+        name += suffix;
+        made /= PathFromUtf8(name);
+        if (std::FILE* file = OpenFile(made, "wbx"))
             return file;
         if (errno != EEXIST)
             break;
@@ -248,7 +254,7 @@ std::FILE* CreateBeside(const fs::path& target, fs::path& made) {
 void ReplaceFile(const std::string& path, const std::string& text) {
     std::error_code ec;
     // Through a link, the file it names is replaced and the link stays.
-    fs::path target = path;
+    fs::path target = PathFromUtf8(path);
     if (fs::is_symlink(fs::symlink_status(target, ec)))
         if (fs::path named = fs::canonical(target, ec); !ec)
             target = named;
@@ -271,8 +277,7 @@ void ReplaceFile(const std::string& path, const std::string& text) {
         fs::remove(temporary, ec);
         throw RuntimeError(57, "Device I/O error");
     }
-    fs::rename(temporary, target, ec);
-    if (ec) {
+    if (RenameOver(temporary, target)) {
         std::error_code ignored;
         fs::remove(temporary, ignored);
         throw RuntimeError(75, "Path/File access error");

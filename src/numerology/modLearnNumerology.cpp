@@ -52,8 +52,8 @@ std::string JoinLines(std::span<const std::string_view> lines) {
 } // namespace
 
 void LoadNumerologyTables() {
-    for (int i = 0; i <= kSubjectUpperBound; ++i) {
-        if (i < content::kSubjectCount) {
+    for (std::size_t i = 0; i <= std::size_t(kSubjectUpperBound); ++i) {
+        if (i < std::size_t(content::kSubjectCount)) {
             const content::SubjectRecord& subject = content::kSubjectRows[i];
             strSubject[i] = subject.name;
             strSignificance[i] = content::kSignificanceTexts[i];
@@ -69,7 +69,7 @@ void LoadNumerologyTables() {
             intLastRow[i] = 0;
         }
     }
-    for (int row = 0; row <= kRowUpperBound; ++row) {
+    for (std::size_t row = 0; row <= std::size_t(kRowUpperBound); ++row) {
         intNumber[row] = content::kInterpretationRows[row].number;
         strInterpretation[row] = content::kInterpretationRows[row].text;
     }

@@ -2,11 +2,10 @@
 // per user, and the two free-text goal notes kept in files beside the program.
 #include "frmLearnRunesMain.h"
 
+#include "common/Numbers.h"
 #include "common/TextFiles.h"
 #include "runes/ResumeNext.h"
 #include "shell/modSettings.h"
-
-#include <cstdlib>
 
 namespace quillane {
 
@@ -18,7 +17,7 @@ constexpr const char* kSection = "Settings";
 
 // The number at the start of a stored text, 0 when there is none.
 double Val(const std::string& text) {
-    return std::strtod(text.c_str(), nullptr);
+    return ReadNumber(text).value_or(0.0);
 }
 
 // The text without the blanks at its start and end (only blanks: line ends

@@ -2,9 +2,8 @@
 // The long meaning texts are in RuneMeanings.cpp.
 #include "runes/modLearnRunes.h"
 
+#include "common/Ascii.h"
 #include "runes/RuneMeanings.h"
-
-#include <cctype>
 
 namespace quillane::modLearnRunes {
 
@@ -63,14 +62,16 @@ constexpr std::array<StoneRow, kStoneCount> kStoneRows = {{
 } // namespace
 
 void LoadRuneTables() {
-    for (std::int16_t s = 0; s < kStoneCount; ++s) {
+    constexpr auto kNames = std::size_t(kAlternativeNamesPerStone);
+    constexpr auto kKeywords = std::size_t(kKeywordsPerStone);
+    for (std::size_t s = 0; s < std::size_t(kStoneCount); ++s) {
         const StoneRow& row = kStoneRows[s];
         strStoneName[s] = row.name;
-        for (std::int16_t j = 0; j < kAlternativeNamesPerStone; ++j) {
-            strAlternativeName[s * kAlternativeNamesPerStone + j] = row.alternativeNames[j];
+        for (std::size_t j = 0; j < kNames; ++j) {
+            strAlternativeName[s * kNames + j] = row.alternativeNames[j];
         }
-        for (std::int16_t j = 0; j < kKeywordsPerStone; ++j) {
-            strKeyword[s * kKeywordsPerStone + j] = row.keywords[j];
+        for (std::size_t j = 0; j < kKeywords; ++j) {
+            strKeyword[s * kKeywords + j] = row.keywords[j];
         }
         strNormalMeaning[s] = content::kNormalMeaning[s];
         strReverseMeaning[s] = content::kReverseMeaning[s];
@@ -79,7 +80,7 @@ void LoadRuneTables() {
         strMarkstaveMeaning[s] = strReverseMeaning[s];
     }
     for (const content::OwnMarkstave& own : content::kOwnMarkstaveMeaning) {
-        strMarkstaveMeaning[own.stone] = own.text;
+        strMarkstaveMeaning[std::size_t(own.stone)] = own.text;
     }
 }
 
@@ -88,8 +89,8 @@ std::string ImgFileName(int entry) {
         return {};
     }
     std::string name = "stone-";
-    for (char c : kImgKey[entry - 1]) {
-        name += c == ' ' ? '-' : static_cast<char>(std::tolower(static_cast<unsigned char>(c)));
+    for (char c : kImgKey[std::size_t(entry - 1)]) {
+        name += c == ' ' ? '-' : AsciiLower(c);
     }
     return name + ".svg";
 }

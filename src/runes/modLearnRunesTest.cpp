@@ -95,7 +95,7 @@ void LoadKeywordQuestion(const QuestionView& view) {
     const int rights = advanced ? 4 : 1;
     // Independent draws: a keyword may come twice, another not at all.
     for (int j = 0; j < rights; ++j)
-        strCorrectKeyword(j) = strKeyword.at(std::size_t(4 * s + Draw(4)));
+        strCorrectKeyword(j) = strKeyword.at(4 * std::size_t(s) + std::size_t(Draw(4)));
     for (int i = 0; i < shown; ++i) {
         const std::string& k = strKeyword.at(std::size_t(Draw(96)));
         bool right = false;

@@ -20,16 +20,16 @@ void SaveSetting(Application& app, const std::string& application, const std::st
 std::string EncodeSettingText(const std::string& text) {
     std::string out;
     out.reserve(text.size());
-    for (unsigned char c : text)
-        out += char((c + 85) & 0xFF);
+    for (const char c : text)
+        out += char((static_cast<unsigned char>(c) + 85) & 0xFF);
     return out;
 }
 
 std::string DecodeSettingText(const std::string& text) {
     std::string out;
     out.reserve(text.size());
-    for (unsigned char c : text)
-        out += char((c - 85) & 0xFF);
+    for (const char c : text)
+        out += char((static_cast<unsigned char>(c) - 85) & 0xFF);
     return out;
 }
 

@@ -152,7 +152,8 @@ void frmLearnTarotMain::DisplayGoals(bool ShowAchieved) {
         for (long i = 0; i <= tGoals.UBound(); ++i) {
             if ((tGoals(i).blnAchieved != 0) != ShowAchieved)
                 continue;
-            const int item = ListView1.Add("_" + std::to_string(i), tGoals(i).strGoalName);
+            const int item =
+                ListView1.Add(std::string(1, '_').append(std::to_string(i)), tGoals(i).strGoalName);
             ListView1.SetSubItem(item, std::to_string(i));
             Combo3.SetListIndex(tGoals(i).intPercent);
             if (ShowAchieved)

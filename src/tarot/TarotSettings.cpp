@@ -103,14 +103,14 @@ std::string frmLearnTarotMain::BuildCardQuery() const {
         clauses[0] = "(Group=0)";
     for (int i = 0; i <= 3; ++i)
         if (chkGroup(i).Enabled() && chkGroup(i).Value() == 1)
-            clauses[i + 1] = "(Group=" + std::to_string(i + 1) + ")";
+            clauses[i + 1].append("(Group=").append(std::to_string(i + 1)).append(")");
     for (const std::string& clause : clauses)
         if (!clause.empty())
-            sql += " " + clause + " OR ";
+            sql.append(" ").append(clause).append(" OR ");
     sql.erase(sql.size() - 4);
     sql += " ORDER BY ID";
     for (std::size_t at = sql.find("  "); at != std::string::npos; at = sql.find("  ", at))
-        sql.replace(at, 2, " ");
+        sql.erase(at, 1);
     return sql;
 }
 

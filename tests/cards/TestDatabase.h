@@ -1,34 +1,20 @@
 #pragma once
 // Small card databases written by the tests into a folder of their own.
+#include "DriveSession.h"
+#include "common/Paths.h"
+
 #include <sqlite3.h>
 
-#include <filesystem>
 #include <stdexcept>
 #include <string>
 #include <vector>
 
 namespace cardtest {
 
-class TempFolder {
+class TempFolder : public quillane::testing::ScratchDir {
 public:
-    TempFolder() {
-        std::string pattern =
-            (std::filesystem::temp_directory_path() / "quillane-cards-XXXXXX").string();
-        std::vector<char> buffer(pattern.begin(), pattern.end());
-        buffer.push_back('\0');
-        if (!mkdtemp(buffer.data()))
-            throw std::runtime_error("mkdtemp failed");
-        path_ = buffer.data();
-    }
-    ~TempFolder() {
-        std::error_code ec;
-        std::filesystem::remove_all(path_, ec);
-    }
-    const std::filesystem::path& Path() const { return path_; }
-    std::string File(const std::string& name) const { return (path_ / name).string(); }
-
-private:
-    std::filesystem::path path_;
+    // A file's path in the folder, as the program's UTF-8 text.
+    std::string File(const std::string& name) const { return quillane::PathToUtf8(Path() / name); }
 };
 
 // Runs SQL statements against a new database file at `path`.

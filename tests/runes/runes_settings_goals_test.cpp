@@ -2,9 +2,10 @@
 // goal files byte for byte, and files that cannot be read or written.
 #include "RunesDrive.h"
 
+#include <QByteArray>
+#include <QtGlobal>
 #include <gtest/gtest.h>
 
-#include <cstdlib>
 #include <fstream>
 #include <iterator>
 
@@ -186,7 +187,7 @@ TEST(RuneGoals, ASessionThatNamesNoProgramFolderWritesNothingBesideTheDriver) {
 
 TEST(RuneGoals, AnUnwritableProgramFolderKeepsTheNotesInTheUsersDataFolder) {
     ScratchDir data;
-    ::setenv("XDG_DATA_HOME", data.Str().c_str(), 1);
+    qputenv("XDG_DATA_HOME", QByteArray::fromStdString(data.Str()));
     RunesSession session;
     // A program folder that cannot hold files: a plain file stands in its place.
     Spit(session.program.Path() / "file", "x");
@@ -195,7 +196,7 @@ TEST(RuneGoals, AnUnwritableProgramFolderKeepsTheNotesInTheUsersDataFolder) {
         session.Run({"click frmLearnRunesMain.cmdSubjects(3)", "click frmLearnRunesMain.chkGoal1",
                      "set frmLearnRunesMain.txtGoal1.Text \"saved elsewhere\"",
                      "click frmLearnRunesMain.cmdGoal1", "forms"});
-    ::unsetenv("XDG_DATA_HOME");
+    qunsetenv("XDG_DATA_HOME");
     EXPECT_EQ(a[4], R"(["frmMDI","frmLearnRunesMain"])");
     EXPECT_EQ(Slurp(data.Path() / "quillane" / "Goal1.txt"), "saved elsewhere\r\n");
     EXPECT_EQ(Slurp(data.Path() / "quillane" / "Goal2.txt"), "This is Goal 2.\r\n");

@@ -1,5 +1,7 @@
 #pragma once
 // Runs quillane-drive as a process: a script in, one answer a command out.
+#include "RunProgram.h"
+
 #include <algorithm>
 #include <cstdio>
 #include <cstdlib>
@@ -34,13 +36,6 @@ private:
     std::filesystem::path path_;
 };
 
-inline std::string ShellQuote(const std::string& s) {
-    std::string out = "'";
-    for (char c : s)
-        out += c == '\'' ? std::string("'\\''") : std::string(1, c);
-    return out + "'";
-}
-
 // Runs one driver process over the commands and answers the lines it printed.
 inline std::vector<std::string> Drive(const std::vector<std::string>& options,
                                       const std::vector<std::string>& commands) {
@@ -61,32 +56,31 @@ inline std::vector<std::string> Drive(const std::vector<std::string>& options,
     };
     if (!drive)
         return padded({});
-    ScratchDir io;
-    {
-        std::ofstream script(io.Path() / "in.txt", std::ios::binary);
-        for (const auto& c : commands)
-            script << c << "\n";
-    }
-    // A driver that hangs is stopped, and its test fails on the missing answers.
-    std::string command = "timeout 90 " + ShellQuote(drive);
-    for (const auto& o : options)
-        command += " " + ShellQuote(o);
+    std::string script;
+    for (const auto& c : commands)
+        script += c + '\n';
     // A session that names no program folder gets one of its own, with the
     // card database beside it, so that no test writes into the build.
+    ScratchDir io;
+    std::vector<std::string> arguments = options;
     if (std::find(options.begin(), options.end(), "--program-dir") == options.end()) {
         const auto program = io.Path() / "program";
         std::filesystem::create_directory(program);
         std::error_code ec;
         const auto deck = std::filesystem::path(drive).parent_path() / "learn.dll";
-        if (std::filesystem::exists(deck, ec))
+        // A link where the system lets us make one, else a copy.
+        if (std::filesystem::exists(deck, ec)) {
             std::filesystem::create_symlink(deck, program / "learn.dll", ec);
-        command += " --program-dir " + ShellQuote(program.string());
+            if (ec)
+                std::filesystem::copy_file(deck, program / "learn.dll", ec);
+        }
+        arguments.insert(arguments.end(), {"--program-dir", program.string()});
     }
-    command += " < " + ShellQuote((io.Path() / "in.txt").string()) + " > " +
-               ShellQuote((io.Path() / "out.txt").string());
-    if (std::system(command.c_str()) != 0)
+    // A driver that hangs is stopped, and its test fails on the missing answers.
+    const auto output = RunProgram(drive, arguments, script, 90);
+    if (!output)
         return padded({});
-    std::ifstream answers(io.Path() / "out.txt", std::ios::binary);
+    std::istringstream answers(*output);
     std::vector<std::string> lines;
     for (std::string line; std::getline(answers, line);)
         lines.push_back(line);

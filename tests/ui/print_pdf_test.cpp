@@ -20,12 +20,11 @@
 
 #include <gtest/gtest.h>
 
-#include <fstream>
 #include <sstream>
 
 using namespace quillane;
+using quillane::testing::RunProgram;
 using quillane::testing::ScratchDir;
-using quillane::testing::ShellQuote;
 
 namespace {
 
@@ -40,16 +39,11 @@ std::vector<std::string> Words(const std::string& text) {
 
 // The text of a PDF file, page after page.
 std::string PdfText(const std::string& pdf) {
-    const std::string out = pdf + ".txt";
-    const std::string command =
-        "pdftotext -enc UTF-8 -layout " + ShellQuote(pdf) + " " + ShellQuote(out) + " 2>/dev/null";
-    if (std::system(command.c_str()) != 0)
+    const auto read = RunProgram("pdftotext", {"-q", "-enc", "UTF-8", "-layout", pdf, "-"});
+    if (!read)
         return "pdftotext failed on " + pdf;
-    std::ifstream in(out, std::ios::binary);
-    std::stringstream read;
-    read << in.rdbuf();
     // The page's font joins some letters into one glyph; they count as letters.
-    std::string text = read.str();
+    std::string text = *read;
     const std::pair<std::string, std::string> ligatures[] = {{"\xEF\xAC\x80", "ff"},
                                                              {"\xEF\xAC\x81", "fi"},
                                                              {"\xEF\xAC\x82", "fl"},
