@@ -85,7 +85,11 @@ QToolButton[role="launch"] {
     color: #f3ecd8; background: rgba(27, 26, 61, 0.85); border: 1px solid #8a7530;
     border-radius: 8px; padding: 6px 14px; font-size: 10.5pt; font-weight: 600;
 }
-QToolButton[role="launch"]:hover, QToolButton[role="launch"]:focus { background: #2a2860; border-color: #e8c766; }
+QToolButton[role="launch"]:hover { background: #2a2860; }
+QToolButton[role="launch"][current="true"] {
+    background: #34307a; color: #f6dc8c; border: 2px solid #e8c766; padding: 5px 13px;
+}
+QToolButton[role="launch"]:focus { border: 2px dashed #f3ecd8; padding: 5px 13px; }
 QToolButton[role="launch"]:pressed { background: #141330; }
 QWidget#picMain QLabel, QWidget#PicCoBrand QLabel { background: transparent; }
 QLabel[role="welcome"] { color: #e8c766; font-size: 30pt; font-weight: 300; }
