@@ -189,3 +189,42 @@ TEST_F(LauncherUi, TheBarMarksTheOpenSubjectAlsoAfterTheRuneMeaningDialog) {
     QCoreApplication::processEvents();
     EXPECT_EQ(current(), "");
 }
+
+const char* const kSubjects[4] = {"Astrology", "Numerology", "Tarot", "Runes"};
+
+// What clips or overlaps in a window: a wrapped label shorter than its text,
+// or two controls of one container over each other.
+QStringList Clipped(QWidget* window) {
+    QStringList found;
+    for (QWidget* w : window->findChildren<QWidget*>()) {
+        if (!w->isVisible() || w->isWindow())
+            continue;
+        if (auto* label = qobject_cast<QLabel*>(w);
+            label && label->wordWrap() && label->height() < label->heightForWidth(label->width()))
+            found << w->objectName() + " is cut";
+        for (QWidget* other : w->parentWidget()->findChildren<QWidget*>(Qt::FindDirectChildrenOnly))
+            if (other != w && other->isVisible() && w->geometry().intersects(other->geometry()) &&
+                !w->objectName().isEmpty() && w->objectName() < other->objectName())
+                found << w->objectName() + " overlaps " + other->objectName();
+    }
+    return found;
+}
+
+TEST_F(LauncherUi, OnTheSmallestScreenEveryWindowFitsWithNothingCut) {
+    Main()->showNormal();
+    Main()->resize(1024, 768);
+    QCoreApplication::processEvents();
+    auto* mdi = Widget<QMdiArea>("mdiArea");
+    auto fits = [mdi](const char* what) {
+        QCoreApplication::processEvents();
+        QMdiSubWindow* child = mdi->subWindowList().first();
+        EXPECT_TRUE(mdi->viewport()->rect().contains(child->geometry())) << what;
+        EXPECT_EQ(Clipped(child).join(", ").toStdString(), "") << what;
+    };
+    for (int subject = 0; subject < 4; ++subject) {
+        Widget<QAbstractButton>(qPrintable(QString("cmdSelectOption(%1)").arg(subject)))->click();
+        fits(kSubjects[subject]);
+    }
+    Widget<QAbstractButton>("cmdMemorize")->click();
+    fits("the rune stones");
+}

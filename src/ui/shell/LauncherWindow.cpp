@@ -183,9 +183,9 @@ QWidget* BuildLauncher(Form&) {
     // The picture bar with the subject buttons, usable while a subject is open.
     auto* bar = new SvgBackground(":/launcher/bar.svg");
     bar->setObjectName("Picture1");
-    bar->setFixedHeight(112);
+    bar->setFixedHeight(90);
     auto* barRow = new QHBoxLayout(bar);
-    barRow->setContentsMargins(12, 8, 12, 12);
+    barRow->setContentsMargins(12, 6, 12, 9);
     auto* buttons = new QWidget;
     buttons->setObjectName("picButtonContainer");
     auto* buttonRow = new QHBoxLayout(buttons);
@@ -209,7 +209,7 @@ QWidget* BuildLauncher(Form&) {
         button->setProperty("role", "launch");
         button->setToolButtonStyle(Qt::ToolButtonTextUnderIcon);
         button->setIcon(QIcon(kEmblems[i]));
-        button->setIconSize(QSize(48, 48));
+        button->setIconSize(QSize(40, 40));
         button->setMinimumWidth(160);
         button->setCursor(Qt::PointingHandCursor);
         button->setFocusPolicy(Qt::StrongFocus);
@@ -295,11 +295,13 @@ QWidget* BuildLauncher(Form&) {
     fullBrand->setWordWrap(true);
     fullBrand->setAlignment(Qt::AlignLeft | Qt::AlignVCenter);
     fullBrand->setMaximumWidth(560);
-    bottomRow->addWidget(fullBrand, 1);
+    // The longer text takes the larger share, so neither runs past three
+    // lines on a small screen.
+    bottomRow->addWidget(fullBrand, 3);
     auto* banner = Label("lblZenthoraBanner", "link");
     banner->setWordWrap(true);
     banner->setAlignment(Qt::AlignLeft | Qt::AlignVCenter);
-    bottomRow->addWidget(banner, 1);
+    bottomRow->addWidget(banner, 2);
     auto* exit = new QPushButton;
     exit->setObjectName("cmdMdiExit");
     exit->setCursor(Qt::PointingHandCursor);
