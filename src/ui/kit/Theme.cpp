@@ -40,6 +40,7 @@ QPlainTextEdit, QTextEdit, QLineEdit, QTreeWidget {
     background: #ffffff; color: #1f1d29; border: 1px solid #d8d0bc; border-radius: 4px;
     selection-background-color: #c9b26a; selection-color: #1f1d29;
 }
+QLineEdit { min-height: 22px; padding: 0 6px; }
 QComboBox { min-height: 22px; padding: 1px 8px; background: #ffffff; color: #1f1d29;
             border: 1px solid #c8bd9c; border-radius: 4px; }
 QComboBox::drop-down { subcontrol-origin: padding; subcontrol-position: center right;
