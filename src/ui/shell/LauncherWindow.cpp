@@ -1,5 +1,6 @@
 #include "ShellWindows.h"
 #include "ui/binding/Pictures.h"
+#include "ui/kit/ProgramIcon.h"
 
 #include <QEvent>
 #include <QHBoxLayout>
@@ -32,7 +33,8 @@ protected:
             drawn_ = QPixmap(size() * ratio);
             drawn_.fill(Qt::transparent);
             QPainter onto(&drawn_);
-            QSvgRenderer(resource_).render(&onto, QRectF(QPointF(0, 0), size() * ratio));
+            SharedPictures().Document(resource_).render(&onto,
+                                                        QRectF(QPointF(0, 0), size() * ratio));
             drawn_.setDevicePixelRatio(ratio);
         }
         QPainter(this).drawPixmap(0, 0, drawn_);
@@ -145,7 +147,7 @@ QWidget* BuildLauncher(Form&) {
         button->setObjectName(QString("cmdSelectOption(%1)").arg(i));
         button->setProperty("role", "launch");
         button->setToolButtonStyle(Qt::ToolButtonTextUnderIcon);
-        button->setIcon(QIcon(kEmblems[i]));
+        button->setIcon(kit::SvgIcon(kEmblems[i]));
         button->setIconSize(QSize(48, 48));
         button->setMinimumWidth(160);
         button->setCursor(Qt::PointingHandCursor);
