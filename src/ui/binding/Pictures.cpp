@@ -1,4 +1,5 @@
 #include "Pictures.h"
+#include "platform/DesktopServices.h"
 
 #include <QByteArrayView>
 #include <QCoreApplication>
@@ -30,8 +31,7 @@ QPixmap DrawSvg(QSvgRenderer& renderer, QSize size, qreal pixelRatio) {
 }
 
 QPixmap DrawBytes(const std::vector<unsigned char>& bytes, QSize size, qreal pixelRatio) {
-    QImage image;
-    image.loadFromData(bytes.data(), int(bytes.size()));
+    QImage image = ImageDecoder::Decode(bytes);
     if (image.isNull())
         return {};
     image = image.scaled(size * pixelRatio, Qt::KeepAspectRatio, Qt::SmoothTransformation);
