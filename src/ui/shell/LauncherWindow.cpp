@@ -11,6 +11,7 @@
 #include <QPainter>
 #include <QPushButton>
 #include <QShortcut>
+#include <QStyle>
 #include <QSvgRenderer>
 #include <QToolButton>
 #include <QVBoxLayout>
@@ -87,12 +88,41 @@ private:
     QWidget* clientArea_;
 };
 
+// One of the launcher's own pictures, drawn from its SVG when the label is
+// first painted rather than when the window is made, so that the window is
+// on the screen sooner (and a decoration that a narrow window hides is never
+// drawn). It takes the room of its picture; a picture the program gives the
+// label shows instead.
+class LauncherPicture : public QLabel {
+public:
+    LauncherPicture(const QString& resource, QSize size) : resource_(resource), size_(size) {
+        setFixedSize(size);
+        setAlignment(Qt::AlignCenter);
+    }
+    QSize sizeHint() const override { return pixmap().isNull() ? size_ : QLabel::sizeHint(); }
+    QSize minimumSizeHint() const override {
+        return pixmap().isNull() ? size_ : QLabel::minimumSizeHint();
+    }
+
+protected:
+    void paintEvent(QPaintEvent* event) override {
+        if (!pixmap().isNull()) {
+            QLabel::paintEvent(event);
+            return;
+        }
+        QPainter painter(this);
+        style()->drawItemPixmap(&painter, contentsRect(), Qt::AlignCenter,
+                                RenderSvg(resource_, size_, devicePixelRatioF()));
+    }
+
+private:
+    QString resource_;
+    QSize size_;
+};
+
 QLabel* Picture(const QString& name, const QString& resource, QSize size) {
-    auto* label = new QLabel;
+    auto* label = new LauncherPicture(resource, size);
     label->setObjectName(name);
-    label->setFixedSize(size);
-    label->setPixmap(RenderSvg(resource, size, label->devicePixelRatioF()));
-    label->setAlignment(Qt::AlignCenter);
     return label;
 }
 
