@@ -5,16 +5,16 @@
 // the window's picture cache does when it meets a card for the first time),
 // opens its keyword query and reads seven keywords. The walk runs several
 // times, each with an empty cache; the median time per card is printed.
-// Target: under 2 ms per card.
+// Target: at most 1 ms per card.
 //
 //   quillane-bench-cards [path/to/learn.dll]
 #include "cards/modDB.h"
 #include "cards/modImageDB.h"
 #include "common/Errors.h"
+#include "platform/DesktopServices.h"
 #include "ui/binding/Pictures.h"
 
 #include <QGuiApplication>
-#include <QImage>
 
 #include <algorithm>
 #include <chrono>
@@ -27,17 +27,9 @@ using namespace quillane;
 namespace {
 
 constexpr int kWalks = 5;
-constexpr double kTargetMs = 2.0;
+constexpr double kTargetMs = 1.0;
 // The size of a card's box in the Tarot window.
 constexpr QSize kCardBox(132, 228);
-
-class QtDecoder : public IPictureDecoder {
-public:
-    bool CanDecode(const std::vector<unsigned char>& bytes) override {
-        QImage image;
-        return image.loadFromData(bytes.data(), static_cast<int>(bytes.size()));
-    }
-};
 
 } // namespace
 
@@ -45,7 +37,7 @@ int main(int argc, char** argv) {
     qputenv("QT_QPA_PLATFORM", "offscreen");
     QGuiApplication qt(argc, argv);
     std::string path = argc > 1 ? argv[1] : QUILLANE_LEARN_DLL;
-    QtDecoder decoder;
+    ImageDecoder decoder; // the program's own
     modImageDB::SetDecoder(&decoder);
     try {
         auto start = std::chrono::steady_clock::now();
@@ -99,9 +91,9 @@ int main(int argc, char** argv) {
         double median = perCard[perCard.size() / 2];
         std::printf("cards: %ld, walks: %d, open selection: %.2f ms\n", rs.RecordCount(), kWalks,
                     openMs);
-        std::printf("median per card: %.3f ms (slowest %.3f ms; target under %.0f ms)\n", median,
+        std::printf("median per card: %.3f ms (slowest %.3f ms; target %.0f ms)\n", median,
                     perCard.back(), kTargetMs);
-        return median < kTargetMs ? 0 : 1;
+        return median <= kTargetMs ? 0 : 1;
     } catch (const FatalError& e) {
         std::fprintf(stderr, "%s: %s\n", e.File().c_str(), e.what());
         return 1;

@@ -10,8 +10,10 @@
 set -euo pipefail
 here=$(cd "$(dirname "$0")" && pwd)
 runs=${1:-7}
+# The X server must not reset when its last client leaves, between two
+# runs, or the next run may find no server to connect to.
 if [ -z "${DISPLAY:-}" ]; then
-  exec xvfb-run -a -s "-screen 0 1600x900x24" "$0" "$@"
+  exec xvfb-run -a -s "-screen 0 1600x900x24 -noreset" "$0" "$@"
 fi
 scratch=$(mktemp -d)
 trap 'rm -rf "$scratch"' EXIT

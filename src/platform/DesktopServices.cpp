@@ -141,10 +141,19 @@ void QtEventPump::DoEvents() {
 }
 
 bool ImageDecoder::CanDecode(const std::vector<unsigned char>& bytes) {
-    if (bytes.empty())
-        return false;
-    QImage image;
-    return image.loadFromData(bytes.data(), int(bytes.size())) && !image.isNull();
+    return !Decode(bytes).isNull();
+}
+
+QImage ImageDecoder::Decode(const std::vector<unsigned char>& bytes) {
+    static std::vector<unsigned char> lastBytes;
+    static QImage last;
+    if (bytes != lastBytes) {
+        last = QImage();
+        if (!bytes.empty())
+            last.loadFromData(bytes.data(), int(bytes.size()));
+        lastBytes = bytes;
+    }
+    return last;
 }
 
 } // namespace quillane

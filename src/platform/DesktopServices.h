@@ -4,6 +4,7 @@
 // event loop, the picture decoder.
 #include "common/Services.h"
 
+#include <QImage>
 #include <QLockFile>
 #include <QString>
 #include <memory>
@@ -62,6 +63,10 @@ public:
 class ImageDecoder : public IPictureDecoder {
 public:
     bool CanDecode(const std::vector<unsigned char>& bytes) override;
+    // The picture the bytes hold, or a null image. The last one is kept: a
+    // card's picture is checked as it is read and drawn right after, and is
+    // decoded once for both.
+    static QImage Decode(const std::vector<unsigned char>& bytes);
 };
 
 } // namespace quillane

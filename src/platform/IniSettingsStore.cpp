@@ -62,13 +62,20 @@ void IniSettingsStore::Write(const std::string& application, const std::string& 
         return;
     }
     QByteArray before;
+    bool exists = false;
     if (QFile file(path); file.exists()) {
         // What can't be read is not overwritten.
         if (!file.open(QIODevice::ReadOnly))
             return;
         before = file.readAll();
+        exists = true;
     }
     const std::string after = ini::Set(View(before), section, key, value);
+    // A value stored again as it is (the Runes window stores its settings at
+    // each opening) leaves the file alone: a replaced file is a wait for the
+    // disk.
+    if (exists && View(before) == after)
+        return;
     // Written whole beside the file and renamed over it, keeping its rights;
     // a write that fails (a full disk) leaves the file as it was.
     QSaveFile file(path);

@@ -192,15 +192,16 @@ QWidget* ReportPanel() {
 
 } // namespace
 
-QWidget* BuildAstrologyWindow(Form& form) {
+QWidget* BuildAstrologyWindow(Form& form, QWidget* frame) {
     auto* body = new QWidget;
     body->setObjectName("astrologyBody");
-    auto* layout = new QVBoxLayout(body);
-    layout->setContentsMargins(0, 0, 0, 0);
-    layout->addWidget(Stack({ChoicePanel(), BrowsingPanel(), QuestionPanel(form), ReportPanel()}));
     // Long texts scroll inside the window, which fits a 1366 by 768 screen.
     body->setMinimumSize(900, 430);
-    return SubjectShell(form, body, "astrology", "Label61");
+    QWidget* window = SubjectShell(form, frame, body, "astrology", "Label61");
+    auto* layout = new QVBoxLayout(body);
+    layout->setContentsMargins(0, 0, 0, 0);
+    Stack(layout, {ChoicePanel(), BrowsingPanel(), QuestionPanel(form), ReportPanel()});
+    return window;
 }
 
 void RegisterAstrologyWindows(FormHost& host) {

@@ -53,6 +53,11 @@ void FormHost::RegisterWindow(const std::string& form, WindowBuilder builder) {
     builders_[form] = std::move(builder);
 }
 
+void FormHost::RegisterWindow(const std::string& form,
+                              const std::function<QWidget*(Form&)>& builder) {
+    builders_[form] = [builder](Form& f, QWidget*) { return builder(f); };
+}
+
 QWidget* FormHost::WindowOf(const std::string& form) const {
     auto it = windows_.find(form);
     return it == windows_.end() ? nullptr : it->second.widget.data();
@@ -72,20 +77,23 @@ void FormHost::FormLoaded(Form& form) {
     auto it = builders_.find(form.Name());
     if (it == builders_.end())
         return;
-    QWidget* widget = it->second(form);
+    QMdiSubWindow* sub = nullptr;
+    if (form.IsMdiChild() && mdi_) {
+        sub = new ChildFrame;
+        sub->setWindowFlags(Qt::SubWindow | Qt::WindowTitleHint | Qt::WindowCloseButtonHint |
+                            Qt::WindowMinimizeButtonHint | Qt::WindowMaximizeButtonHint |
+                            Qt::WindowSystemMenuHint);
+        sub->setAttribute(Qt::WA_DeleteOnClose, false);
+        sub->setWindowIcon(QApplication::windowIcon());
+        mdi_->addSubWindow(sub);
+    }
+    QWidget* widget = it->second(form, sub);
     Window w{widget, widget, nullptr};
     if (auto* main = qobject_cast<QMainWindow*>(widget)) {
         main_ = main;
         mdi_ = main->findChild<QMdiArea*>("mdiArea");
-    } else if (form.IsMdiChild() && mdi_) {
-        auto* sub = new ChildFrame;
+    } else if (sub) {
         sub->setWidget(widget);
-        sub->setWindowFlags(Qt::SubWindow | Qt::WindowTitleHint | Qt::WindowCloseButtonHint |
-                            Qt::WindowMinimizeButtonHint | Qt::WindowMaximizeButtonHint |
-                            Qt::WindowSystemMenuHint);
-        mdi_->addSubWindow(sub);
-        sub->setAttribute(Qt::WA_DeleteOnClose, false);
-        sub->setWindowIcon(QApplication::windowIcon());
         w.frame = sub;
     }
     w.binder = new Binder(app_, form, widget);

@@ -16,12 +16,16 @@ namespace quillane::ui {
 
 class FormHost : public QObject, public IFormHost {
 public:
-    // Makes the window of a form; its widgets carry the control names.
-    using WindowBuilder = std::function<QWidget*(Form&)>;
+    // Makes the window of a form; its widgets carry the control names. A
+    // window that stands inside the launcher is given the sub-window it goes
+    // into, to be built in its place (a widget that took its looks before
+    // would take them again there); other windows are given null.
+    using WindowBuilder = std::function<QWidget*(Form&, QWidget* frame)>;
 
     explicit FormHost(Application& app);
     ~FormHost() override;
     void RegisterWindow(const std::string& form, WindowBuilder builder);
+    void RegisterWindow(const std::string& form, const std::function<QWidget*(Form&)>& builder);
 
     void FormLoaded(Form& form) override;
     void FormShown(Form& form) override;

@@ -16,13 +16,24 @@ MouseForwarder::MouseForwarder(Binder& binder, Control& control, QWidget* widget
     if (control.Click && qobject_cast<QLabel*>(widget)) {
         widget->setCursor(Qt::PointingHandCursor);
         // A label that leads somewhere is reached by Tab and pressed by
-        // Return or Space, as a link is.
-        widget->setFocusPolicy(Qt::TabFocus);
+        // Return or Space, as a link is. It takes the focus from its first
+        // showing on (below).
         widget->setAccessibleDescription("Link");
+        if (widget->isVisible())
+            widget->setFocusPolicy(Qt::TabFocus);
     }
 }
 
 bool MouseForwarder::eventFilter(QObject* watched, QEvent* event) {
+    // A label that can take the focus lays its text out as a whole document,
+    // again at each size its layout asks about, which made a window with
+    // links slow to lay out for its first showing. By the time the label
+    // shows, its window has been laid out.
+    if (event->type() == QEvent::Show && control_.Click) {
+        auto* label = qobject_cast<QLabel*>(watched);
+        if (label && label->focusPolicy() == Qt::NoFocus)
+            label->setFocusPolicy(Qt::TabFocus);
+    }
     // The form may be gone while its window still takes events.
     if (binder_.Detached() || !control_.Enabled())
         return QObject::eventFilter(watched, event);

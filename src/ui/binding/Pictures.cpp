@@ -1,4 +1,5 @@
 #include "Pictures.h"
+#include "platform/DesktopServices.h"
 
 #include <QByteArrayView>
 #include <QCoreApplication>
@@ -15,8 +16,7 @@ namespace {
 // starts afresh rather than grow without end.
 constexpr int kMostKept = 400;
 
-QPixmap DrawSvg(const QString& resource, QSize size, qreal pixelRatio) {
-    QSvgRenderer renderer(resource);
+QPixmap DrawSvg(QSvgRenderer& renderer, QSize size, qreal pixelRatio) {
     if (!renderer.isValid())
         return {};
     QSize target = renderer.defaultSize().scaled(size, Qt::KeepAspectRatio);
@@ -31,8 +31,7 @@ QPixmap DrawSvg(const QString& resource, QSize size, qreal pixelRatio) {
 }
 
 QPixmap DrawBytes(const std::vector<unsigned char>& bytes, QSize size, qreal pixelRatio) {
-    QImage image;
-    image.loadFromData(bytes.data(), int(bytes.size()));
+    QImage image = ImageDecoder::Decode(bytes);
     if (image.isNull())
         return {};
     image = image.scaled(size * pixelRatio, Qt::KeepAspectRatio, Qt::SmoothTransformation);
@@ -62,7 +61,14 @@ QPixmap PictureCache::Lookup(const QString& key, const std::function<QPixmap()>&
 
 QPixmap PictureCache::RenderSvg(const QString& resource, QSize size, qreal pixelRatio) {
     return Lookup(resource + "|" + SizeKey(size, pixelRatio),
-                  [&] { return DrawSvg(resource, size, pixelRatio); });
+                  [&] { return DrawSvg(Document(resource), size, pixelRatio); });
+}
+
+QSvgRenderer& PictureCache::Document(const QString& resource) {
+    std::shared_ptr<QSvgRenderer>& document = documents_[resource];
+    if (!document)
+        document = std::make_shared<QSvgRenderer>(resource);
+    return *document;
 }
 
 QPixmap PictureCache::Render(const Picture& picture, QSize size, qreal pixelRatio) {

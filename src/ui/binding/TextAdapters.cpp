@@ -12,6 +12,9 @@ namespace {
 // The control's caret as a place in its view: the control counts a line end
 // as two characters, the view as one.
 int CaretInView(const Control& control, int last) {
+    // A caret at the end, after an append, needs no counting over the text.
+    if (std::size_t(control.SelStart()) >= control.Text().size())
+        return last;
     const std::string before = control.Text().substr(0, std::size_t(control.SelStart()));
     return std::min(int(QString::fromStdString(before).replace("\r\n", "\n").size()), last);
 }
@@ -89,8 +92,8 @@ void RichTextAdapter::Show(Prop prop) {
             if (runs[i].pointSize > 0)
                 format.setFontPointSize(runs[i].pointSize);
             cursor.insertText(QString::fromStdString(runs[i].text).replace("\r\n", "\n"), format);
+            shown_.push_back(runs[i]);
         }
-        shown_ = runs;
     }
     if (prop == Prop::Text || prop == Prop::SelStart) {
         const int caret = CaretInView(control_, view->document()->characterCount() - 1);

@@ -8,4 +8,8 @@ namespace quillane::ui::kit {
 
 QIcon ProgramIcon();
 
+// An icon drawn from one of the program's SVG pictures at each size it is
+// shown at; every size is drawn once and kept with the other pictures.
+QIcon SvgIcon(const QString& resource);
+
 } // namespace quillane::ui::kit

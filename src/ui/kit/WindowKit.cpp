@@ -75,8 +75,9 @@ QGroupBox* Frame(const QString& path) {
     return Named(new QGroupBox, path);
 }
 
-QStackedWidget* Stack(std::initializer_list<QWidget*> panels) {
+QStackedWidget* Stack(QBoxLayout* place, std::initializer_list<QWidget*> panels, int stretch) {
     auto* stack = new QStackedWidget;
+    place->addWidget(stack, stretch);
     for (QWidget* panel : panels)
         stack->addWidget(panel);
     return stack;
@@ -194,8 +195,9 @@ template <class Button> void Wrapping<Button>::paintEvent(QPaintEvent*) {
 template class Wrapping<QCheckBox>;
 template class Wrapping<QRadioButton>;
 
-QWidget* SubjectShell(Form& form, QWidget* body, const char* subject, const char* forumLabel) {
-    auto* window = new QWidget;
+QWidget* SubjectShell(Form& form, QWidget* frame, QWidget* body, const char* subject,
+                      const char* forumLabel) {
+    auto* window = new QWidget(frame);
     window->setObjectName(QString::fromStdString(form.Name()));
     theme::SetSubject(window, subject);
     auto* column = new QVBoxLayout(window);
@@ -222,7 +224,6 @@ QWidget* SubjectShell(Form& form, QWidget* body, const char* subject, const char
     // The links wrap, and the window is sized before they get their texts:
     // their height at the narrowest width is reserved from the form's
     // captions, so they never ride over the panels.
-    window->ensurePolished();
     for (auto* label : links->findChildren<QLabel*>()) {
         label->ensurePolished();
         if (Control* c = form.Find(label->objectName().toStdString()))

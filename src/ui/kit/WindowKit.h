@@ -51,8 +51,10 @@ QLabel* Picture(const QString& path, QSize size, const char* role = nullptr);
 QWidget* Panel(const QString& path);
 // A frame with its caption as a title (the binder keeps the title).
 QGroupBox* Frame(const QString& path);
-// Panels stacked in one place; the binder keeps the front one current.
-QStackedWidget* Stack(std::initializer_list<QWidget*> panels);
+// Panels stacked in one place; the binder keeps the front one current. The
+// stack takes its place in the layout first: the panel in front takes its
+// looks as it goes in, and should take them where it stands.
+QStackedWidget* Stack(QBoxLayout* place, std::initializer_list<QWidget*> panels, int stretch = 0);
 // Marks a control whose name is the text the program gives it with each
 // question (an answer's option), and which has none before.
 template <class W> W* NamedByContent(W* widget) {
@@ -112,7 +114,10 @@ using WrapOption = Wrapping<QRadioButton>;
 
 // A subject window: its body in the subject's accent, and below it the links
 // every subject carries (the forum's label is named by each subject) and the
-// exit button where the form has one.
-QWidget* SubjectShell(Form& form, QWidget* body, const char* subject, const char* forumLabel);
+// exit button where the form has one. It is made in the frame it will stand
+// in, before the body's panels go into the body (whose minimum width is set
+// by then), so that every widget takes its looks once, where it stands.
+QWidget* SubjectShell(Form& form, QWidget* frame, QWidget* body, const char* subject,
+                      const char* forumLabel);
 
 } // namespace quillane::ui::kit

@@ -171,17 +171,17 @@ QWidget* ResultPanel() {
 
 } // namespace
 
-QWidget* BuildNumerologyWindow(Form& form) {
+QWidget* BuildNumerologyWindow(Form& form, QWidget* frame) {
     auto* body = new QWidget;
     body->setObjectName("numerologyBody");
     body->setMinimumSize(900, 430);
+    QWidget* window = kit::SubjectShell(form, frame, body, "numerology", "Label14");
     auto* column = new QVBoxLayout(body);
     column->setContentsMargins(0, 0, 0, 0);
-    auto* stack = kit::Stack({StartPanel(), OptionsPanel(), StudyPanel(), SubjectPanel(),
-                              QuestionPanel(form), ResultPanel()});
-    stack->setObjectName("numerologyPanels");
-    column->addWidget(stack);
-    return kit::SubjectShell(form, body, "numerology", "Label14");
+    kit::Stack(column, {StartPanel(), OptionsPanel(), StudyPanel(), SubjectPanel(),
+                        QuestionPanel(form), ResultPanel()})
+        ->setObjectName("numerologyPanels");
+    return window;
 }
 
 void RegisterNumerologyWindows(FormHost& host) {

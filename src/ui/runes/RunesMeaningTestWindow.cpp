@@ -15,8 +15,8 @@ namespace quillane::ui {
 
 using namespace kit;
 
-QWidget* BuildRunesMeaningTestWindow(Form& form) {
-    auto* window = new QWidget;
+QWidget* BuildRunesMeaningTestWindow(Form& form, QWidget* frame) {
+    auto* window = new QWidget(frame);
     window->setObjectName(QString::fromStdString(form.Name()));
     theme::SetSubject(window, "runes");
     auto* column = new QVBoxLayout(window);

@@ -150,7 +150,7 @@ QWidget* TestSetUpPanel() {
     Choice(c, Option("optTestLevel(0)"), "fraCaptions(2)", "lblCaptions(3)");
     Choice(c, Option("optTestLevel(1)"), "fraCaptions(3)", "lblCaptions(4)");
     StepButtons(c, {"cmdTestBack(1)", "cmdTestNext(2)"});
-    outer->addWidget(Stack({subjects, type, level}));
+    Stack(outer, {subjects, type, level});
     return panel;
 }
 
@@ -213,9 +213,11 @@ QWidget* ResultPanel() {
 
 } // namespace
 
-QWidget* BuildRunesWindow(Form& form) {
+QWidget* BuildRunesWindow(Form& form, QWidget* frame) {
     auto* body = new QWidget;
     body->setObjectName("runesBody");
+    body->setMinimumSize(900, 430);
+    QWidget* window = SubjectShell(form, frame, body, "runes", "Label14");
     auto* column = Column(body, 0);
     auto* subjects = new QHBoxLayout;
     for (int i = 0; i <= 3; ++i) {
@@ -225,11 +227,11 @@ QWidget* BuildRunesWindow(Form& form) {
     }
     subjects->addStretch();
     column->addLayout(subjects);
-    column->addWidget(Stack({SettingsPanel(), MemorizePanel(), TestSetUpPanel(), GoalsPanel(),
-                             KeywordPanel(), ResultPanel()}),
-                      1);
-    body->setMinimumSize(900, 430);
-    return SubjectShell(form, body, "runes", "Label14");
+    Stack(column,
+          {SettingsPanel(), MemorizePanel(), TestSetUpPanel(), GoalsPanel(), KeywordPanel(),
+           ResultPanel()},
+          1);
+    return window;
 }
 
 void RegisterRunesWindows(FormHost& host) {

@@ -5,6 +5,6 @@
 namespace quillane::ui {
 
 void RegisterRunesWindows(FormHost& host);
-QWidget* BuildRunesMeaningTestWindow(Form& form);
+QWidget* BuildRunesMeaningTestWindow(Form& form, QWidget* frame);
 
 } // namespace quillane::ui

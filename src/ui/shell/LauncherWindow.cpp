@@ -1,5 +1,6 @@
 #include "ShellWindows.h"
 #include "ui/binding/Pictures.h"
+#include "ui/kit/ProgramIcon.h"
 
 #include <QApplication>
 #include <QEvent>
@@ -35,7 +36,8 @@ protected:
             drawn_ = QPixmap(size() * ratio);
             drawn_.fill(Qt::transparent);
             QPainter onto(&drawn_);
-            QSvgRenderer(resource_).render(&onto, QRectF(QPointF(0, 0), size() * ratio));
+            SharedPictures().Document(resource_).render(&onto,
+                                                        QRectF(QPointF(0, 0), size() * ratio));
             drawn_.setDevicePixelRatio(ratio);
         }
         QPainter(this).drawPixmap(0, 0, drawn_);
@@ -147,12 +149,41 @@ private:
     QPointer<QWidget> lastInSubject_;
 };
 
+// One of the launcher's own pictures, drawn from its SVG when the label is
+// first painted rather than when the window is made, so that the window is
+// on the screen sooner (and a decoration that a narrow window hides is never
+// drawn). It takes the room of its picture; a picture the program gives the
+// label shows instead.
+class LauncherPicture : public QLabel {
+public:
+    LauncherPicture(const QString& resource, QSize size) : resource_(resource), size_(size) {
+        setFixedSize(size);
+        setAlignment(Qt::AlignCenter);
+    }
+    QSize sizeHint() const override { return pixmap().isNull() ? size_ : QLabel::sizeHint(); }
+    QSize minimumSizeHint() const override {
+        return pixmap().isNull() ? size_ : QLabel::minimumSizeHint();
+    }
+
+protected:
+    void paintEvent(QPaintEvent* event) override {
+        if (!pixmap().isNull()) {
+            QLabel::paintEvent(event);
+            return;
+        }
+        QPainter painter(this);
+        style()->drawItemPixmap(&painter, contentsRect(), Qt::AlignCenter,
+                                RenderSvg(resource_, size_, devicePixelRatioF()));
+    }
+
+private:
+    QString resource_;
+    QSize size_;
+};
+
 QLabel* Picture(const QString& name, const QString& resource, QSize size) {
-    auto* label = new QLabel;
+    auto* label = new LauncherPicture(resource, size);
     label->setObjectName(name);
-    label->setFixedSize(size);
-    label->setPixmap(RenderSvg(resource, size, label->devicePixelRatioF()));
-    label->setAlignment(Qt::AlignCenter);
     return label;
 }
 
@@ -208,7 +239,7 @@ QWidget* BuildLauncher(Form&) {
         button->setObjectName(QString("cmdSelectOption(%1)").arg(i));
         button->setProperty("role", "launch");
         button->setToolButtonStyle(Qt::ToolButtonTextUnderIcon);
-        button->setIcon(QIcon(kEmblems[i]));
+        button->setIcon(kit::SvgIcon(kEmblems[i]));
         button->setIconSize(QSize(40, 40));
         button->setMinimumWidth(160);
         button->setCursor(Qt::PointingHandCursor);

@@ -248,7 +248,7 @@ QWidget* TestPage() {
     log->hide();
     card->addWidget(log);
     row->addLayout(card);
-    row->addWidget(Stack({DescriptionChoices(), KeywordChoices()}), 1);
+    Stack(row, {DescriptionChoices(), KeywordChoices()}, 1);
     column->addLayout(row, 1);
     column->addLayout(
         ButtonRow({Label("lblQCount", "caption", false), Label("llblQCount", nullptr, false)},
@@ -270,9 +270,11 @@ QWidget* ResultsPage() {
     return page;
 }
 
-QWidget* BuildTarotWindow(Form& form) {
+QWidget* BuildTarotWindow(Form& form, QWidget* frame) {
     auto* body = new QWidget;
     body->setObjectName("tarotBody");
+    body->setMinimumSize(960, 430);
+    QWidget* window = SubjectShell(form, frame, body, "tarot", "Label6");
     auto* column = new QVBoxLayout(body);
     column->setContentsMargins(0, 0, 0, 0);
     // The invisible control that the tray's messages were once addressed to.
@@ -280,11 +282,10 @@ QWidget* BuildTarotWindow(Form& form) {
     hook->hide();
     column->addWidget(hook);
     auto* tabs = Named(new QTabWidget, "SSTab1");
+    column->addWidget(tabs);
     for (QWidget* page : {GoalsPage(), SettingsPage(), MemorizePage(), TestPage(), ResultsPage()})
         tabs->addTab(page, QString());
-    column->addWidget(tabs);
-    body->setMinimumSize(960, 430);
-    return SubjectShell(form, body, "tarot", "Label6");
+    return window;
 }
 
 } // namespace
