@@ -94,17 +94,6 @@ TEST_F(Draws, DistractorsAreFiveDifferentEntriesAndLeaveTheSpareZero) {
     }
 }
 
-TEST_F(Draws, TheRightAnswerNeverGoesInTheFifthBox) {
-    std::map<int, int> places;
-    for (int run = 0; run < kRuns; ++run) {
-        Seed(run);
-        ++places[num::DrawAnswerPlace()];
-    }
-    EXPECT_EQ(places.size(), 4u);
-    EXPECT_EQ(places.begin()->first, 0);
-    EXPECT_EQ(places.rbegin()->first, 3);
-}
-
 TEST_F(Draws, InterpretationListHasFiveRowsOfEachTickedSubjectInOrder) {
     bool laterRepeat = false;
     for (int run = 0; run < kRuns; ++run) {
@@ -133,18 +122,6 @@ TEST_F(Draws, InterpretationListHasFiveRowsOfEachTickedSubjectInOrder) {
         }
     }
     EXPECT_TRUE(laterRepeat) << "a later subject's rows are not kept apart from each other";
-}
-
-TEST_F(Draws, LifePathAloneAsksFromItsSecondRowOn) {
-    std::set<int> seen;
-    for (int run = 0; run < kRuns; ++run) {
-        Seed(run);
-        Tick({0});
-        num::BuildInterpretationQuestions();
-        for (long k = 0; k < 5; ++k)
-            seen.insert(num::intInterpretationQuestion(k));
-    }
-    EXPECT_EQ(seen, (std::set<int>{1, 2, 3, 4, 5, 6, 7, 8, 9, 10}));
 }
 
 TEST_F(Draws, RoundingGivesTheEndRowsOfASubjectHalfTheChance) {
