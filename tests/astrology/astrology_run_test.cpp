@@ -13,7 +13,6 @@
 
 using namespace quillane;
 using namespace quillane::astrology;
-namespace mla = quillane::modLearnAstrology;
 
 namespace {
 

@@ -28,6 +28,7 @@ bool Contains(std::string text, const std::string& word) {
 
 template <typename Column> std::vector<std::string> Numbers(const Column& column) {
     std::vector<std::string> texts;
+    texts.reserve(std::size(column));
     for (int value : column)
         texts.push_back(std::to_string(value));
     return texts;

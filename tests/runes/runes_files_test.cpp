@@ -124,7 +124,7 @@ TEST(GoalFile, TwoWritersNeverMixTheirTexts) {
     const std::string note = (dir.Path() / "Goal1.txt").string();
     std::atomic<int> spoilt{0};
     auto writer = [&](char letter) {
-        const std::string text(64 * 1024, letter);
+        const std::string text(std::size_t(64) * 1024, letter);
         for (int i = 0; i < 40; ++i) {
             try {
                 ReplaceFile(note, text);

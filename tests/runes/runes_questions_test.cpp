@@ -51,8 +51,8 @@ protected:
             form.choices(i).SetValue(1);
     }
     std::set<std::string> Keywords(int stone) {
-        return {strKeyword[4 * stone], strKeyword[4 * stone + 1], strKeyword[4 * stone + 2],
-                strKeyword[4 * stone + 3]};
+        const std::size_t k = 4 * std::size_t(stone);
+        return {strKeyword[k], strKeyword[k + 1], strKeyword[k + 2], strKeyword[k + 3]};
     }
     Application app{Services{}};
     QuestionForm form{app};
@@ -122,7 +122,7 @@ TEST_F(Questions, KeywordQuestionsShowOneRightBoxAtEachLevel) {
             EXPECT_EQ(rightBoxes, 1) << "seed " << seed;
             EXPECT_EQ(placed, strCorrectKeyword(rights - 1));
             for (int k = 0; k < 4 && level == 0; ++k)
-                if (strKeyword[std::size_t(4 * s + k)] == strCorrectKeyword(0))
+                if (strKeyword[4 * std::size_t(s) + std::size_t(k)] == strCorrectKeyword(0))
                     places.insert(k);
         }
     }

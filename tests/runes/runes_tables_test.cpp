@@ -56,7 +56,7 @@ TEST_F(RuneTables, TheTextsTheTestsCompareTellStonesApart) {
     std::map<std::string, std::set<int>> stonesOf;
     for (int k = 0; k < 96; ++k)
         stonesOf[strKeyword[k]].insert(k / 4);
-    for (int s = 0; s < 24; ++s) {
+    for (long s = 0; s < 24; ++s) {
         const std::set<std::string> own(strKeyword.begin() + 4 * s, strKeyword.begin() + 4 * s + 4);
         EXPECT_EQ(own.size(), 4u) << strStoneName[s];
     }
