@@ -9,6 +9,8 @@ packages=(
   libsqlite3-dev libgtest-dev
   fonts-dejavu-core
   xvfb xauth xdotool imagemagick poppler-utils
+  # scripts/package.sh: the Debian package, its checks and validators.
+  dpkg-dev desktop-file-utils appstream lintian
   locales
   # The logic's builds with Clang and libc++, and for Windows with MinGW-w64;
   # libFuzzer needs clang's runtime libraries of the same version.

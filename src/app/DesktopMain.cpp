@@ -26,6 +26,9 @@ int main(int argc, char** argv) {
 #endif
     QApplication qt(argc, argv);
     QApplication::setApplicationName("Quillane");
+    // The desktop entry's name: Wayland desktops match the window to its entry
+    // and icon by it.
+    QGuiApplication::setDesktopFileName("net.zenthora.quillane");
     QApplication::setWindowIcon(quillane::ui::kit::ProgramIcon());
     QApplication::setQuitOnLastWindowClosed(false);
     quillane::ui::theme::Apply(qt);

@@ -130,3 +130,93 @@ TEST_F(LauncherUi, EverySubjectOpensAndClosesByKeyboard) {
     EXPECT_EQ(app->Find("frmLearnRunesMain"), nullptr) << "Ctrl+F4 closes the subject in front";
     EXPECT_TRUE(Widget<QWidget>("picMain")->isVisible());
 }
+
+TEST_F(LauncherUi, TabAndF6LeadFromASubjectToTheLauncherAndBack) {
+    QApplication::setActiveWindow(Main());
+    Widget<QAbstractButton>("cmdSelectOption(0)")->click();
+    QWidget* subject = host->WindowOf("frmLearnAstrologyMain");
+    auto* next = subject->findChild<QWidget*>("cmdNext");
+    next->setFocus();
+    QWidget* last = next;
+    for (int stops = 0; stops < 50 && subject->isAncestorOf(QApplication::focusWidget()); ++stops) {
+        last = QApplication::focusWidget();
+        QTest::keyClick(last, Qt::Key_Tab);
+    }
+    EXPECT_EQ(QApplication::focusWidget(), Widget<QWidget>("cmdSelectOption(0)"))
+        << "Tab goes on from the subject's last control to the launcher's first button";
+    QTest::keyClick(QApplication::focusWidget(), Qt::Key_Backtab);
+    EXPECT_EQ(QApplication::focusWidget(), last);
+
+    QTest::keyClick(last, Qt::Key_F6);
+    EXPECT_EQ(QApplication::focusWidget(), Widget<QWidget>("cmdSelectOption(0)"))
+        << "F6 goes to the open subject's button";
+    QTest::keyClick(QApplication::focusWidget(), Qt::Key_F6);
+    EXPECT_EQ(QApplication::focusWidget(), last) << "and back to where the subject was";
+}
+
+TEST_F(LauncherUi, TheBarMarksTheOpenSubjectAlsoAfterTheRuneMeaningDialog) {
+    auto current = [this] {
+        QStringList marked;
+        for (int i = 0; i < 4; ++i)
+            if (Widget<QWidget>(qPrintable(QString("cmdSelectOption(%1)").arg(i)))
+                    ->property("current")
+                    .toBool())
+                marked << QString::number(i);
+        return marked.join(",").toStdString();
+    };
+    EXPECT_EQ(current(), "");
+    Widget<QAbstractButton>("cmdSelectOption(3)")->click();
+    for (const char* step :
+         {"cmdSubjects(2)", "optTestSubjects(0)", "cmdTestNext(0)", "chkTestType(1)",
+          "cmdTestNext(1)", "optTestLevel(0)", "cmdTestNext(2)"})
+        Widget<QAbstractButton>(step)->click();
+    ASSERT_NE(app->Find("frmLearnRunesMeaningTest"), nullptr);
+    EXPECT_EQ(current(), "3");
+    host->WindowOf("frmLearnRunesMeaningTest")->parentWidget()->close();
+    QCoreApplication::processEvents();
+    EXPECT_EQ(current(), "3");
+    Widget<QAbstractButton>("cmdSelectOption(0)")->click();
+    EXPECT_EQ(current(), "0");
+    QTest::keyClick(Main(), Qt::Key_F4, Qt::ControlModifier);
+    QCoreApplication::processEvents();
+    EXPECT_EQ(current(), "");
+}
+
+const char* const kSubjects[4] = {"Astrology", "Numerology", "Tarot", "Runes"};
+
+// What clips or overlaps in a window: a wrapped label shorter than its text,
+// or two controls of one container over each other.
+QStringList Clipped(QWidget* window) {
+    QStringList found;
+    for (QWidget* w : window->findChildren<QWidget*>()) {
+        if (!w->isVisible() || w->isWindow())
+            continue;
+        if (auto* label = qobject_cast<QLabel*>(w);
+            label && label->wordWrap() && label->height() < label->heightForWidth(label->width()))
+            found << w->objectName() + " is cut";
+        for (QWidget* other : w->parentWidget()->findChildren<QWidget*>(Qt::FindDirectChildrenOnly))
+            if (other != w && other->isVisible() && w->geometry().intersects(other->geometry()) &&
+                !w->objectName().isEmpty() && w->objectName() < other->objectName())
+                found << w->objectName() + " overlaps " + other->objectName();
+    }
+    return found;
+}
+
+TEST_F(LauncherUi, OnTheSmallestScreenEveryWindowFitsWithNothingCut) {
+    Main()->showNormal();
+    Main()->resize(1024, 768);
+    QCoreApplication::processEvents();
+    auto* mdi = Widget<QMdiArea>("mdiArea");
+    auto fits = [mdi](const char* what) {
+        QCoreApplication::processEvents();
+        QMdiSubWindow* child = mdi->subWindowList().first();
+        EXPECT_TRUE(mdi->viewport()->rect().contains(child->geometry())) << what;
+        EXPECT_EQ(Clipped(child).join(", ").toStdString(), "") << what;
+    };
+    for (int subject = 0; subject < 4; ++subject) {
+        Widget<QAbstractButton>(qPrintable(QString("cmdSelectOption(%1)").arg(subject)))->click();
+        fits(kSubjects[subject]);
+    }
+    Widget<QAbstractButton>("cmdMemorize")->click();
+    fits("the rune stones");
+}

@@ -9,6 +9,38 @@
 
 namespace quillane::ui {
 
+namespace {
+
+bool IsTabStop(const QWidget* w) {
+    return (w->focusPolicy() & Qt::TabFocus) && !w->focusProxy() && w->isVisible() &&
+           w->isEnabled();
+}
+
+// A child window whose tab order goes on into the main window around it:
+// Tab past its last control reaches the main window's next one, Shift+Tab
+// before its first the one before it, so that every control of the program
+// can be reached from the keyboard.
+class ChildFrame : public QMdiSubWindow {
+protected:
+    bool focusNextPrevChild(bool next) override {
+        const QWidget* from = QApplication::focusWidget();
+        if (!from || !isAncestorOf(from))
+            return QMdiSubWindow::focusNextPrevChild(next);
+        for (QWidget* w = next ? from->nextInFocusChain() : from->previousInFocusChain();
+             w && w != from; w = next ? w->nextInFocusChain() : w->previousInFocusChain()) {
+            if (w->window() != window() || !IsTabStop(w))
+                continue;
+            if (w == this || isAncestorOf(w))
+                break; // the next stop is inside: the window's own order
+            w->setFocus(next ? Qt::TabFocusReason : Qt::BacktabFocusReason);
+            return true;
+        }
+        return QMdiSubWindow::focusNextPrevChild(next);
+    }
+};
+
+} // namespace
+
 FormHost::FormHost(Application& app) : app_(app) {}
 
 FormHost::~FormHost() {
@@ -46,10 +78,12 @@ void FormHost::FormLoaded(Form& form) {
         main_ = main;
         mdi_ = main->findChild<QMdiArea*>("mdiArea");
     } else if (form.IsMdiChild() && mdi_) {
-        auto* sub = mdi_->addSubWindow(
-            widget, Qt::SubWindow | Qt::WindowTitleHint | Qt::WindowCloseButtonHint |
-                        Qt::WindowMinimizeButtonHint | Qt::WindowMaximizeButtonHint |
-                        Qt::WindowSystemMenuHint);
+        auto* sub = new ChildFrame;
+        sub->setWidget(widget);
+        sub->setWindowFlags(Qt::SubWindow | Qt::WindowTitleHint | Qt::WindowCloseButtonHint |
+                            Qt::WindowMinimizeButtonHint | Qt::WindowMaximizeButtonHint |
+                            Qt::WindowSystemMenuHint);
+        mdi_->addSubWindow(sub);
         sub->setAttribute(Qt::WA_DeleteOnClose, false);
         sub->setWindowIcon(QApplication::windowIcon());
         w.frame = sub;

@@ -2,15 +2,18 @@
 
 #include <QAccessibleWidget>
 #include <QApplication>
+#include <QPushButton>
 #include <QRadioButton>
 
 namespace quillane::ui::kit {
 
 namespace {
 
+// An option, round or drawn as a button that stays down (the only buttons
+// that stay down in the program), is announced as an option.
 class OptionButtonInterface : public QAccessibleWidget {
 public:
-    explicit OptionButtonInterface(QRadioButton* option)
+    explicit OptionButtonInterface(QAbstractButton* option)
         : QAccessibleWidget(option, QAccessible::RadioButton) {
         addControllingSignal(QLatin1String("toggled(bool)"));
     }
@@ -34,12 +37,15 @@ public:
     }
 
 private:
-    QRadioButton* Option() const { return static_cast<QRadioButton*>(widget()); }
+    QAbstractButton* Option() const { return static_cast<QAbstractButton*>(widget()); }
 };
 
 QAccessibleInterface* Factory(const QString& className, QObject* object) {
     if (auto* option = qobject_cast<QRadioButton*>(object); option && className == "QRadioButton")
         return new OptionButtonInterface(option);
+    if (auto* button = qobject_cast<QPushButton*>(object);
+        button && button->isCheckable() && className == "QPushButton")
+        return new OptionButtonInterface(button);
     return nullptr;
 }
 

@@ -31,6 +31,8 @@ QLabel[role="sub"] { color: #7a5c12; font-size: 11pt; font-weight: 600; }
 QLabel[role="glyph"], QLabel[role="stone"] { background: #ffffff; border: 1px solid #d8d0bc; border-radius: 6px; }
 QFrame[role="card"], QScrollArea[role="card"] { background: #ffffff; border: 1px solid #d8d0bc; border-radius: 8px; }
 QScrollArea[role="card"] > QWidget > QWidget { background: #ffffff; }
+QScrollArea[role="plain"], QScrollArea[role="plain"] > QWidget,
+QScrollArea[role="plain"] > QWidget > QWidget { background: transparent; }
 QFrame[role="choice"] { background: #fffdf8; border: 1px solid #d8d0bc; border-radius: 4px; }
 QFrame[role="rule"] { background: #c9b26a; border: none; }
 QFrame#fraFullBrand { border-top: 1px solid #d8d0bc; }
@@ -38,8 +40,12 @@ QPlainTextEdit, QTextEdit, QLineEdit, QTreeWidget {
     background: #ffffff; color: #1f1d29; border: 1px solid #d8d0bc; border-radius: 4px;
     selection-background-color: #c9b26a; selection-color: #1f1d29;
 }
+QLineEdit { min-height: 22px; padding: 0 6px; }
 QComboBox { min-height: 22px; padding: 1px 8px; background: #ffffff; color: #1f1d29;
             border: 1px solid #c8bd9c; border-radius: 4px; }
+QComboBox::drop-down { subcontrol-origin: padding; subcontrol-position: center right;
+                       width: 18px; border: none; }
+QComboBox::down-arrow { image: url(:/kit/chevron-down.svg); width: 10px; height: 10px; }
 QComboBox QAbstractItemView { background: #ffffff; color: #1f1d29; selection-background-color: #efe3bd; }
 QPushButton {
     color: #2b2838; background: #f3ecd8; border: 1px solid #b59f5b; border-radius: 5px;
@@ -83,9 +89,13 @@ QMainWindow#frmMDI, QWidget#picMain, QMdiArea { background: #000000; }
 QWidget#PicCoBrand { background: #0b0b1a; border-top: 1px solid #5a4a1c; }
 QToolButton[role="launch"] {
     color: #f3ecd8; background: rgba(27, 26, 61, 0.85); border: 1px solid #8a7530;
-    border-radius: 8px; padding: 6px 14px; font-size: 10.5pt; font-weight: 600;
+    border-radius: 8px; padding: 4px 14px; font-size: 10.5pt; font-weight: 600;
 }
-QToolButton[role="launch"]:hover, QToolButton[role="launch"]:focus { background: #2a2860; border-color: #e8c766; }
+QToolButton[role="launch"]:hover { background: #2a2860; }
+QToolButton[role="launch"][current="true"] {
+    background: #34307a; color: #f6dc8c; border: 2px solid #e8c766; padding: 3px 13px;
+}
+QToolButton[role="launch"]:focus { border: 2px dashed #f3ecd8; padding: 3px 13px; }
 QToolButton[role="launch"]:pressed { background: #141330; }
 QWidget#picMain QLabel, QWidget#PicCoBrand QLabel { background: transparent; }
 QLabel[role="welcome"] { color: #e8c766; font-size: 30pt; font-weight: 300; }

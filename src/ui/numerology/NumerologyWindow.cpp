@@ -162,6 +162,7 @@ QWidget* ResultPanel() {
     c->addWidget(report, 1);
     // The page that goes to the printer; the program keeps it hidden.
     auto* printed = kit::RichText("RTB1");
+    printed->setAccessibleName("Printed report");
     printed->hide();
     c->addWidget(printed);
     c->addLayout(ButtonRow({kit::Button("cmdPrint")}, {Primary("cmdGoToMain")}));

@@ -47,7 +47,7 @@ QWidget* BuildRunesMeaningTestWindow(Form& form) {
         list->addWidget(frame);
     }
     list->addStretch();
-    auto* scroll = new QScrollArea;
+    auto* scroll = Role(new QScrollArea, "plain");
     scroll->setWidgetResizable(true);
     scroll->setFrameShape(QFrame::NoFrame);
     scroll->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
@@ -59,7 +59,7 @@ QWidget* BuildRunesMeaningTestWindow(Form& form) {
     buttons->addStretch();
     buttons->addWidget(Button("cmdNextQuestion1", true));
     column->addLayout(buttons);
-    window->setMinimumSize(820, 600);
+    window->setMinimumSize(820, 480);
     return window;
 }
 

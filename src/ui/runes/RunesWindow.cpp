@@ -14,6 +14,13 @@ using namespace kit;
 
 namespace {
 
+// A panel's column: its content lines up with the row of subject buttons.
+QVBoxLayout* Column(QWidget* panel, int top = 8) {
+    auto* column = new QVBoxLayout(panel);
+    column->setContentsMargins(0, top, 0, 0);
+    return column;
+}
+
 QPlainTextEdit* Box(const QString& path, int height) {
     auto* box = TextBox(path);
     box->setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOn);
@@ -23,7 +30,7 @@ QPlainTextEdit* Box(const QString& path, int height) {
 
 QWidget* SettingsPanel() {
     auto* panel = Panel("picSettings");
-    auto* column = new QVBoxLayout(panel);
+    auto* column = Column(panel);
     column->addWidget(Label("Label2(0)", "heading"));
     column->addWidget(Label("lblLabel(0)"));
     column->addWidget(Label("Label2(1)", "caption"));
@@ -62,7 +69,7 @@ QWidget* SettingsPanel() {
 
 QWidget* MemorizePanel() {
     auto* panel = Panel("picMemorizeStones");
-    auto* column = new QVBoxLayout(panel);
+    auto* column = Column(panel);
     column->addWidget(Label("lblStoneName", "title"));
     auto* grid = new QGridLayout;
     grid->setHorizontalSpacing(14);
@@ -71,12 +78,13 @@ QWidget* MemorizePanel() {
         grid->addWidget(caption, 0, i);
         grid->addWidget(Picture(Path("picStone", i), QSize(113, 151), "stone"), 1, i,
                         Qt::AlignHCenter);
-        auto* meaning = Box(Path("txtMeaning", i), 100);
+        auto* meaning = Box(Path("txtMeaning", i), 84);
         caption->setBuddy(meaning);
         grid->addWidget(meaning, 2, i);
         grid->setColumnStretch(i, 1);
     }
     column->addLayout(grid, 1);
+    // The keywords and other names, with the walk's buttons at their end.
     auto* names = new QGridLayout;
     names->addWidget(Label("lblMeaningCaption(3)", "caption"), 0, 0);
     names->addWidget(Label("lblMeaningCaption(4)", "caption"), 0, 1);
@@ -85,13 +93,13 @@ QWidget* MemorizePanel() {
         box->setAccessibleName(i == 0 ? "Keywords" : "Also known as");
         box->setMaximumHeight(48);
         names->addWidget(box, 1, i);
+        names->setColumnStretch(i, 1);
     }
-    column->addLayout(names);
     auto* buttons = new QHBoxLayout;
-    buttons->addStretch();
     buttons->addWidget(Button("cmdBack"));
     buttons->addWidget(Button("cmdNext"));
-    column->addLayout(buttons);
+    names->addLayout(buttons, 1, 2, Qt::AlignBottom);
+    column->addLayout(names);
     return panel;
 }
 
@@ -109,7 +117,7 @@ void Choice(QVBoxLayout* column, QWidget* choice, const QString& frame, const QS
 
 QWidget* Step(const QString& path, QVBoxLayout*& column) {
     auto* step = Panel(path);
-    column = new QVBoxLayout(step);
+    column = Column(step, 0);
     return step;
 }
 
@@ -124,7 +132,7 @@ void StepButtons(QVBoxLayout* column, std::initializer_list<QString> buttons) {
 
 QWidget* TestSetUpPanel() {
     auto* panel = Panel("picTestSetUp");
-    auto* outer = new QVBoxLayout(panel);
+    auto* outer = Column(panel);
     QVBoxLayout* c = nullptr;
     auto* subjects = Step("fraTestSubjects", c);
     c->addWidget(Label("lblCaptions(2)", "heading"));
@@ -148,7 +156,7 @@ QWidget* TestSetUpPanel() {
 
 QWidget* GoalsPanel() {
     auto* panel = Panel("picGoals");
-    auto* column = new QVBoxLayout(panel);
+    auto* column = Column(panel);
     for (int goal = 1; goal <= 2; ++goal) {
         const QString n = QString::number(goal);
         column->addWidget(Check("chkGoal" + n));
@@ -165,7 +173,7 @@ QWidget* GoalsPanel() {
 
 QWidget* KeywordPanel() {
     auto* panel = Panel("picTestKeywords");
-    auto* column = new QVBoxLayout(panel);
+    auto* column = Column(panel);
     column->addWidget(Label("lblIndex", "heading"));
     column->addWidget(Label("lblCaption", "caption"));
     auto* row = new QHBoxLayout;
@@ -192,7 +200,7 @@ QWidget* KeywordPanel() {
 
 QWidget* ResultPanel() {
     auto* panel = Panel("picTestResult");
-    auto* column = new QVBoxLayout(panel);
+    auto* column = Column(panel);
     column->addWidget(Label("Label1", "heading"));
     auto* result = Box("txtResult", 200);
     result->setAccessibleName("Test report");
@@ -208,7 +216,7 @@ QWidget* ResultPanel() {
 QWidget* BuildRunesWindow(Form& form) {
     auto* body = new QWidget;
     body->setObjectName("runesBody");
-    auto* column = new QVBoxLayout(body);
+    auto* column = Column(body, 0);
     auto* subjects = new QHBoxLayout;
     for (int i = 0; i <= 3; ++i) {
         auto* button = Button(Path("cmdSubjects", i));

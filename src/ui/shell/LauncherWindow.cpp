@@ -1,6 +1,7 @@
 #include "ShellWindows.h"
 #include "ui/binding/Pictures.h"
 
+#include <QApplication>
 #include <QEvent>
 #include <QHBoxLayout>
 #include <QLabel>
@@ -8,8 +9,10 @@
 #include <QMdiArea>
 #include <QMdiSubWindow>
 #include <QPainter>
+#include <QPointer>
 #include <QPushButton>
 #include <QShortcut>
+#include <QStyle>
 #include <QSvgRenderer>
 #include <QToolButton>
 #include <QVBoxLayout>
@@ -85,6 +88,65 @@ private:
     QWidget* clientArea_;
 };
 
+// The launcher's bar follows the subject that is open: its button is marked
+// as the current one. A subject window's caption names its subject as its
+// button does ("Quillane Learn Tarot Software", "Learn Tarot"); the Runes
+// meaning dialog belongs to the Runes.
+// F6 and Shift+F6 move the keyboard between the open subject and the bar: to
+// the open subject's button, and back to the control the subject window had.
+class SubjectBar : public QObject {
+public:
+    SubjectBar(QMdiArea* mdi, QList<QToolButton*> buttons)
+        : QObject(mdi), mdi_(mdi), buttons_(std::move(buttons)) {
+        connect(mdi, &QMdiArea::subWindowActivated, this, &SubjectBar::MarkOpenSubject);
+        connect(qApp, &QApplication::focusChanged, this, [this](QWidget*, QWidget* now) {
+            if (now && mdi_->isAncestorOf(now))
+                lastInSubject_ = now;
+        });
+    }
+
+    void MarkOpenSubject() {
+        const QMdiSubWindow* open = OpenChild();
+        for (QToolButton* button : buttons_) {
+            const bool current = open && open->windowTitle().contains(button->text());
+            if (button->property("current").toBool() == current)
+                continue;
+            button->setProperty("current", current);
+            button->style()->unpolish(button);
+            button->style()->polish(button);
+        }
+    }
+
+    void SwitchPane() {
+        QMdiSubWindow* open = OpenChild();
+        const QWidget* focus = QApplication::focusWidget();
+        if (open && !(focus && open->isAncestorOf(focus))) {
+            if (lastInSubject_ && open->isAncestorOf(lastInSubject_) && lastInSubject_->isVisible())
+                lastInSubject_->setFocus(Qt::ShortcutFocusReason);
+            else
+                open->widget()->setFocus(Qt::ShortcutFocusReason);
+            return;
+        }
+        QToolButton* target = buttons_.first();
+        for (QToolButton* button : buttons_)
+            if (button->property("current").toBool())
+                target = button;
+        target->setFocus(Qt::ShortcutFocusReason);
+    }
+
+private:
+    QMdiSubWindow* OpenChild() const {
+        for (QMdiSubWindow* child : mdi_->subWindowList())
+            if (child->isVisible())
+                return child;
+        return nullptr;
+    }
+
+    QMdiArea* mdi_;
+    QList<QToolButton*> buttons_;
+    QPointer<QWidget> lastInSubject_;
+};
+
 QLabel* Picture(const QString& name, const QString& resource, QSize size) {
     auto* label = new QLabel;
     label->setObjectName(name);
@@ -121,9 +183,9 @@ QWidget* BuildLauncher(Form&) {
     // The picture bar with the subject buttons, usable while a subject is open.
     auto* bar = new SvgBackground(":/launcher/bar.svg");
     bar->setObjectName("Picture1");
-    bar->setFixedHeight(112);
+    bar->setFixedHeight(90);
     auto* barRow = new QHBoxLayout(bar);
-    barRow->setContentsMargins(12, 8, 12, 12);
+    barRow->setContentsMargins(12, 6, 12, 9);
     auto* buttons = new QWidget;
     buttons->setObjectName("picButtonContainer");
     auto* buttonRow = new QHBoxLayout(buttons);
@@ -140,13 +202,14 @@ QWidget* BuildLauncher(Form&) {
     };
     decoration("Picture2", ":/launcher/decor-1.svg");
     decoration("Picture3", ":/launcher/decor-2.svg");
+    QList<QToolButton*> launchButtons;
     for (int i = 0; i < 4; ++i) {
         auto* button = new QToolButton;
         button->setObjectName(QString("cmdSelectOption(%1)").arg(i));
         button->setProperty("role", "launch");
         button->setToolButtonStyle(Qt::ToolButtonTextUnderIcon);
         button->setIcon(QIcon(kEmblems[i]));
-        button->setIconSize(QSize(48, 48));
+        button->setIconSize(QSize(40, 40));
         button->setMinimumWidth(160);
         button->setCursor(Qt::PointingHandCursor);
         button->setFocusPolicy(Qt::StrongFocus);
@@ -154,8 +217,10 @@ QWidget* BuildLauncher(Form&) {
         const QKeySequence keys(QString("Alt+%1").arg(kInitials[i]));
         auto* shortcut = new QShortcut(keys, window);
         QObject::connect(shortcut, &QShortcut::activated, button, &QToolButton::click);
-        button->setToolTip(keys.toString(QKeySequence::NativeText));
+        button->setToolTip(QString("%1 opens it; F6 moves between the open subject and this bar")
+                               .arg(keys.toString(QKeySequence::NativeText)));
         buttonRow->addWidget(button);
+        launchButtons << button;
     }
     decoration("Picture4", ":/launcher/decor-3.svg");
     decoration("Picture5", ":/launcher/decor-4.svg");
@@ -208,6 +273,11 @@ QWidget* BuildLauncher(Form&) {
     mdi->setVerticalScrollBarPolicy(Qt::ScrollBarAsNeeded);
     mdi->hide();
     column->addWidget(mdi, 1);
+    auto* subjects = new SubjectBar(mdi, launchButtons);
+    for (const QKeySequence& keys :
+         {QKeySequence(Qt::Key_F6), QKeySequence(Qt::SHIFT | Qt::Key_F6)})
+        QObject::connect(new QShortcut(keys, window), &QShortcut::activated, subjects,
+                         &SubjectBar::SwitchPane);
     // While the welcome panel shows, the client area makes way for it.
     welcome->installEventFilter(new ClientAreaFollower(mdi, welcome));
 
@@ -225,11 +295,13 @@ QWidget* BuildLauncher(Form&) {
     fullBrand->setWordWrap(true);
     fullBrand->setAlignment(Qt::AlignLeft | Qt::AlignVCenter);
     fullBrand->setMaximumWidth(560);
-    bottomRow->addWidget(fullBrand, 1);
+    // The longer text takes the larger share, so neither runs past three
+    // lines on a small screen.
+    bottomRow->addWidget(fullBrand, 3);
     auto* banner = Label("lblZenthoraBanner", "link");
     banner->setWordWrap(true);
     banner->setAlignment(Qt::AlignLeft | Qt::AlignVCenter);
-    bottomRow->addWidget(banner, 1);
+    bottomRow->addWidget(banner, 2);
     auto* exit = new QPushButton;
     exit->setObjectName("cmdMdiExit");
     exit->setCursor(Qt::PointingHandCursor);

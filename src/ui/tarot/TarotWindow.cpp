@@ -67,6 +67,7 @@ QWidget* GoalsPage() {
     views->setFixedHeight(views->sizeHint().height());
     list->addWidget(views);
     auto* goals = Named(new QTreeWidget, "ListView1");
+    goals->setAccessibleName("Goals");
     goals->setMinimumWidth(220);
     goals->setMinimumHeight(100);
     list->addWidget(goals, 1);
@@ -243,6 +244,7 @@ QWidget* TestPage() {
     card->addWidget(Label("lblIsReversed", "prompt"));
     card->addStretch();
     auto* log = TextBox("Text1", true);
+    log->setAccessibleName("Cards drawn");
     log->hide();
     card->addWidget(log);
     row->addLayout(card);
