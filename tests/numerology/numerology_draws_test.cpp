@@ -50,26 +50,6 @@ struct Draws : ::testing::Test {
 
 } // namespace
 
-TEST_F(Draws, SignificanceListHoldsTenDifferentSubjectsButNeverTheFirst) {
-    std::set<int> seen;
-    for (int run = 0; run < kRuns; ++run) {
-        Seed(run);
-        num::intSignificanceQuestion.fill(0);
-        num::BuildSignificanceQuestions();
-        std::set<int> distinct;
-        for (int k = 0; k <= 9; ++k) {
-            const int s = num::intSignificanceQuestion[std::size_t(k)];
-            EXPECT_GE(s, 1) << "run " << run;
-            EXPECT_LE(s, 14) << "run " << run;
-            distinct.insert(s);
-            seen.insert(s);
-        }
-        EXPECT_EQ(distinct.size(), 10u) << "run " << run;
-        EXPECT_EQ(num::intSignificanceQuestion[10], 0) << "the spare entry is never used";
-    }
-    EXPECT_EQ(seen.size(), 14u) << "every subject from 1 to 14 comes up";
-}
-
 TEST_F(Draws, DistractorsAreFiveDifferentEntriesAndLeaveTheSpareZero) {
     struct Case {
         const char* name;

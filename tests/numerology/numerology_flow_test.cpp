@@ -62,29 +62,6 @@ TEST_F(NumerologyFlow, BackFromOptionsClearsEveryChoiceButBackToMainKeepsIt) {
     EXPECT_EQ(Message(), "");
 }
 
-TEST_F(NumerologyFlow, EachOptionLeadsToItsPanel) {
-    struct Case {
-        const char* main;
-        const char* option;
-        int panel;
-        const char* frame;
-    };
-    const Case cases[] = {
-        {"optMain(0)", "optOption(0)", 2, "Learn By Significance"},
-        {"optMain(0)", "optOption(1)", 3, "Learn By Interpretation"},
-        {"optMain(1)", "optOption(0)", 4, "Test By Significance"},
-        {"optMain(1)", "optOption(1)", 3, "Test By Interpretation"},
-    };
-    for (const auto& c : cases) {
-        Open(&printer);
-        ClickAll({c.main, "cmdNext", c.option, "cmdNext2"});
-        EXPECT_EQ(FrontPanel(), c.panel) << c.frame;
-        EXPECT_EQ(C("fraOption(" + std::to_string(c.panel) + ")").Caption(), c.frame);
-    }
-    ClickAll({"cmdBack3"});
-    EXPECT_EQ(FrontPanel(), 1);
-}
-
 TEST_F(NumerologyFlow, StudyBySignificanceWalksAllSubjectsAndStopsAtBothEnds) {
     ClickAll({"optMain(0)", "cmdNext", "optOption(0)", "cmdNext2"});
     EXPECT_EQ(C("RTBLearn").Text(), SignificanceText(0));
