@@ -177,8 +177,8 @@ TEST_F(Windows, NumerologyPanelsHeadingsChartsAndSubjectColumnsFollowTheForm) {
 }
 TEST_F(Windows, RunesPicturesAndTextBoxesHaveTheirSizeAndScrollBars) {
     Press({"cmdSelectOption(3)"});
-    ASSERT_TRUE(host->WindowOf("frmLearnRunesMain"));
-    QWidget* root = host->WindowOf("frmLearnRunesMain");
+    ASSERT_TRUE(host->WindowOf(kRunes));
+    QWidget* root = host->WindowOf(kRunes);
     for (const char* picture : {"picStone(0)", "picStone(1)", "picStone(2)", "picTest"})
         EXPECT_EQ(root->findChild<QLabel*>(picture)->size(), QSize(113, 151)) << picture;
     for (const char* box : {"txtMeaning(0)", "txtGoal1", "txtResult", "txtKeywords"})
@@ -192,11 +192,11 @@ TEST_F(Windows, RunesTheDialogStandsInForTheHiddenWindowUntilItCloses) {
     Press({"cmdSelectOption(3)"});
     for (const char* c : {"cmdSubjects(2)", "optTestSubjects(0)", "cmdTestNext(0)",
                           "chkTestType(0)", "cmdTestNext(1)", "optTestLevel(1)", "cmdTestNext(2)"})
-        Click("frmLearnRunesMain", c);
+        Click(kRunes, c);
     ASSERT_TRUE(host->WindowOf("frmLearnRunesMeaningTest"));
     EXPECT_TRUE(qobject_cast<QMdiSubWindow*>(Frame("frmLearnRunesMeaningTest")));
     EXPECT_TRUE(Frame("frmLearnRunesMeaningTest")->isVisible());
-    EXPECT_FALSE(Frame("frmLearnRunesMain")->isVisible()) << "the Runes window is out of view";
+    EXPECT_FALSE(Frame(kRunes)->isVisible()) << "the Runes window is out of view";
     QWidget* dialog = host->WindowOf("frmLearnRunesMeaningTest");
     EXPECT_TRUE(dialog->findChild<QWidget*>("chkMeaning(7)")->isVisible());
 
@@ -204,23 +204,23 @@ TEST_F(Windows, RunesTheDialogStandsInForTheHiddenWindowUntilItCloses) {
     Frame("frmLearnRunesMeaningTest")->close();
     QApplication::processEvents();
     EXPECT_EQ(app->Find("frmLearnRunesMeaningTest"), nullptr);
-    ASSERT_TRUE(Frame("frmLearnRunesMain"));
-    EXPECT_TRUE(Frame("frmLearnRunesMain")->isVisible()) << "the Runes window comes back";
+    ASSERT_TRUE(Frame(kRunes));
+    EXPECT_TRUE(Frame(kRunes)->isVisible()) << "the Runes window comes back";
 }
 
 // A step of the walk sets on the widgets only the properties that changed,
 // and draws a stone's picture once at its size.
 TEST_F(Windows, RunesAStepOfTheWalkSetsOnlyWhatChanged) {
     Press({"cmdSelectOption(3)"});
-    Click("frmLearnRunesMain", "cmdMemorize");
-    ui::Binder* binder = host->BinderOf("frmLearnRunesMain");
+    Click(kRunes, "cmdMemorize");
+    ui::Binder* binder = host->BinderOf(kRunes);
     ui::PictureCache& pictures = ui::SharedPictures();
-    Click("frmLearnRunesMain", "cmdNext"); // every picture of the walk has been drawn once now
-    Click("frmLearnRunesMain", "cmdBack");
+    Click(kRunes, "cmdNext"); // every picture of the walk has been drawn once now
+    Click(kRunes, "cmdBack");
     // Every property the driver can see, control by control.
     auto state = [this] {
         std::map<std::string, std::string> values;
-        for (const auto& c : app->Find("frmLearnRunesMain")->Controls()) {
+        for (const auto& c : app->Find(kRunes)->Controls()) {
             const Json dump = drive::DumpControl(*c);
             for (const auto& [name, value] : dump.AsObject())
                 values[c->Path() + "." + name] = value.Dump();
@@ -235,7 +235,7 @@ TEST_F(Windows, RunesAStepOfTheWalkSetsOnlyWhatChanged) {
         refreshed.insert(c.Path());
         ++notices;
     });
-    Click("frmLearnRunesMain", "cmdNext");
+    Click(kRunes, "cmdNext");
     std::set<std::string> changed;
     for (const auto& [property, value] : state())
         if (before.at(property) != value)
