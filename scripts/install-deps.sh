@@ -15,6 +15,8 @@ packages=(
   # The logic's builds with Clang and libc++, and for Windows with MinGW-w64;
   # libFuzzer needs clang's runtime libraries of the same version.
   clang libclang-rt-dev libc++-dev libc++abi-dev g++-mingw-w64-x86-64-posix
+  # The gates of scripts/test.sh.
+  clang-format clang-tidy
 )
 # The locales that the locale tests run under.
 locales=(de_DE tr_TR)

@@ -17,7 +17,7 @@ public:
     Driver(Application& app, DrivePlatform& platform);
 
     // The answer to one line, or nothing for a blank line or a comment.
-    std::optional<std::string> Execute(const std::string& line);
+    std::optional<std::string> Execute(const std::string& raw);
 
     Application& App() { return *app_; }
 
@@ -26,7 +26,7 @@ private:
     std::string Get(const std::string& path);
     std::string Set(const std::string& path, const std::string& value);
     std::string Act(const std::string& verb, const std::string& path);
-    std::string Close(const std::string& form);
+    std::string Close(const std::string& name);
     std::string Setting(const std::vector<std::string>& args);
 
     // A path split into its control and what follows it (property, item).
@@ -39,7 +39,7 @@ private:
     // tail: how many trailing parts can't belong to the control's path.
     Target Resolve(const std::vector<std::string>& parts, std::size_t tail);
     std::string Tray(const std::vector<std::string>& args, bool menu);
-    std::string Dump(const std::string& form);
+    std::string Dump(const std::string& name);
 
     Application* app_;
     DrivePlatform& platform_;

@@ -8,13 +8,11 @@
 
 #include <algorithm>
 #include <array>
-#include <numeric>
 #include <string>
 #include <vector>
 
 using namespace quillane;
 using namespace quillane::astrology;
-namespace mla = quillane::modLearnAstrology;
 
 namespace {
 
@@ -53,17 +51,15 @@ TEST(AstrologyRun, TheSetUpAsksEveryRowOnceInManyOrders) {
             TheGenerator().Reset(seed);
             RunState run = NewRun(cat.main, cat.sub);
             SetUpTest(run);
-            ASSERT_EQ(run.intOrder.UBound(), cat.rows);
-            ASSERT_EQ(run.strCorrect.UBound(), cat.rows);
-            ASSERT_EQ(run.strUserAnswer.UBound(), cat.rows);
-            ASSERT_EQ(run.strValues.UBound(), cat.rows);
+            for (long upper : {run.intOrder.UBound(), run.strCorrect.UBound(),
+                               run.strUserAnswer.UBound(), run.strValues.UBound()})
+                ASSERT_EQ(upper, cat.rows);
             std::vector<std::int16_t> asked(run.intOrder.Items().begin(),
                                             run.intOrder.Items().end() - 1);
             std::vector<std::int16_t> sorted = asked;
             std::sort(sorted.begin(), sorted.end());
-            std::vector<std::int16_t> all(std::size_t(cat.rows));
-            std::iota(all.begin(), all.end(), std::int16_t(0));
-            ASSERT_EQ(sorted, all) << "seed " << seed << ": not a permutation of all rows";
+            for (long r = 0; r < cat.rows; ++r)
+                ASSERT_EQ(sorted[std::size_t(r)], r) << "seed " << seed << ": not every row";
             // The spare entry is never drawn into; strCorrect goes by question.
             EXPECT_EQ(run.intOrder(cat.rows), 0);
             EXPECT_EQ(run.strCorrect(cat.rows), "");
@@ -81,21 +77,6 @@ TEST(AstrologyRun, TheSetUpAsksEveryRowOnceInManyOrders) {
         for (long r = 0; r < cat.rows; ++r)
             EXPECT_GT(firstRowCount[std::size_t(r)], 0) << "row " << r << " never asked first";
     }
-}
-
-TEST(AstrologyRun, TheSetUpCopiesTheChosenColumns) {
-    TheGenerator().Reset(7);
-    RunState run = NewRun(1, 7); // planets, "Ruler for House"
-    SetUpTest(run);
-    EXPECT_EQ(run.strValues(2),
-              "9th House - The House of Travel\r\n12th House - The House of Shortcomings");
-    EXPECT_EQ(run.strNames(2), "Jupiter");
-    EXPECT_EQ(run.strValues(10), "");
-
-    RunState houses = NewRun(2, 99); // beyond the list: the last column
-    CopyRunColumns(houses);
-    EXPECT_EQ(houses.strValues(0), "Angular House (Action)");
-    EXPECT_EQ(houses.strNames(0), "Aries") << "house names are sign names";
 }
 
 TEST(AstrologyRun, WrongChoicesComeFromTheFirstFiveRows) {
@@ -163,44 +144,11 @@ TEST(AstrologyRun, DrawsRoundToTheNearestSoTheEndsComeUpHalfAsOften) {
     EXPECT_NEAR(drawn[0] / 44000.0, 0.5 / 11, 0.006);
     EXPECT_NEAR(drawn[11] / 44000.0, 0.5 / 11, 0.006);
     EXPECT_NEAR(drawn[5] / 44000.0, 1.0 / 11, 0.008);
-}
 
-TEST(AstrologyRun, TheReportLooksUpTheCorrectAnswerByTheRowAsked) {
-    // Question 0 asks about row 3, question 3 about row 7: the report of
-    // question 0 prints and compares the value at row 7.
-    RunState run = NewRun(0, 1); // signs by dates
-    run.strMainCaption = "Test By Signs";
-    run.strSubCaption = "Dates";
-    CopyRunColumns(run);
-    const std::vector<std::int16_t> order = {3, 1, 2, 7, 4, 5, 6, 0, 8, 9, 10, 11};
-    run.intOrder.ReDim(12);
-    run.strCorrect.ReDim(12);
-    run.strUserAnswer.ReDim(12);
-    for (long q = 0; q < 12; ++q) {
-        run.intOrder(q) = order[std::size_t(q)];
-        run.strCorrect(q) = run.strValues(order[std::size_t(q)]);
-        // Every answer is true to the table.
-        run.strUserAnswer(q) = run.strValues(order[std::size_t(q)]);
-    }
-    const auto pieces = ResultPieces(run);
-    const std::string text = Joined(pieces);
-    const std::string firstQuestion =
-        "Question: Cancer\r\nCorrect Answer: " + mla::strSignDates[7] +
-        "\r\nYour Answer: " + mla::strSignDates[3] + "\r\n\r\n";
-    EXPECT_EQ(text.rfind("Quillane Learn Astrology Result\r\n\r\nTest By Signs - Dates\r\n\r\n" +
-                             firstQuestion,
-                         0),
-              0u)
-        << text.substr(0, 300);
-    // Rows asked by their own question number (1, 2, 4, 5, 6, 8 to 11) score;
-    // rows 3, 7 and 0 do not.
-    EXPECT_EQ(ResultScore(run), 9);
-    EXPECT_TRUE(text.ends_with("\r\n\r\n9 Correct out of 12 Questions")) << text;
-
-    // Answering with the report's own "Correct Answer" scores every question.
-    for (long q = 0; q < 12; ++q)
-        run.strUserAnswer(q) = run.strCorrect(run.intOrder(q));
-    EXPECT_EQ(ResultScore(run), 12);
+    // This seed's first number is exactly 1/8: a product of one half goes to
+    // the even neighbour, 0.
+    TheGenerator().Reset(14522585);
+    EXPECT_EQ(DrawOver(4), 0);
 }
 
 TEST(AstrologyRun, ATrueAnswerScoresOnlyWhereTheRowIsItsOwnQuestion) {
@@ -220,44 +168,4 @@ TEST(AstrologyRun, ATrueAnswerScoresOnlyWhereTheRowIsItsOwnQuestion) {
                                        std::to_string(cat.rows) + " Questions"));
         }
     }
-}
-
-TEST(AstrologyRun, TheReportsBoldRunsAreTheHeadingsAndLabels) {
-    TheGenerator().Reset(3);
-    RunState run = NewRun(1, 0); // planets by glyph: 10 questions
-    SetUpTest(run);
-    for (long q = 0; q < 10; ++q)
-        run.strUserAnswer(q) = "Sun";
-    const auto pieces = ResultPieces(run);
-    std::vector<std::string> bold, plain;
-    for (const auto& p : pieces)
-        (p.bold ? bold : plain).push_back(p.text);
-    ASSERT_EQ(bold.size(), 2u + 10 * 3 + 1);
-    ASSERT_EQ(plain.size(), 10u * 2);
-    EXPECT_EQ(bold[0], "Quillane Learn Astrology Result\r\n\r\n");
-    EXPECT_EQ(bold[1], "Main - Sub\r\n\r\n");
-    for (long q = 0; q < 10; ++q) {
-        const auto row = run.intOrder(q);
-        EXPECT_EQ(bold[std::size_t(2 + 3 * q)],
-                  "Question: " + mla::strPlanet[std::size_t(row)] + "\r\n");
-        EXPECT_EQ(bold[std::size_t(3 + 3 * q)], "Correct Answer: ");
-        EXPECT_EQ(bold[std::size_t(4 + 3 * q)], "Your Answer: ");
-        EXPECT_EQ(plain[std::size_t(2 * q)], run.strCorrect(row) + "\r\n");
-        EXPECT_EQ(plain[std::size_t(2 * q + 1)], "Sun\r\n\r\n");
-    }
-    EXPECT_TRUE(bold.back().ends_with(" Correct out of 10 Questions"));
-}
-
-TEST(AstrologyRun, TheDriverSeesNoArraysBeforeARun) {
-    RunState run;
-    const Json before = RunVariables(run);
-    for (const char* name : {"strValues", "strNames", "intOrder", "strCorrect", "strUserAnswer"})
-        EXPECT_TRUE(before.Find(name)->IsNull()) << name;
-    EXPECT_EQ(before.Find("intCurrent")->AsInt(), 0);
-    TheGenerator().Reset(5);
-    run = NewRun(0, 9);
-    SetUpTest(run);
-    const Json after = RunVariables(run);
-    EXPECT_EQ(after.Find("intOrder")->AsArray().size(), 13u);
-    EXPECT_EQ(after.Find("strValues")->AsArray()[4].AsString(), "8 && 9");
 }

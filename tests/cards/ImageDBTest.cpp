@@ -1,13 +1,10 @@
-// Card pictures from the rows: loading into a picture, the failures that
-// leave it empty, and the temporary file names.
+// Card pictures from the rows: loading into a picture, and the failures that
+// leave it empty.
 #include "TestDatabase.h"
 #include "cards/modDB.h"
 #include "cards/modImageDB.h"
 
 #include <gtest/gtest.h>
-
-#include <filesystem>
-#include <set>
 
 using namespace quillane;
 using namespace quillane::modDB;
@@ -97,27 +94,6 @@ TEST_F(ImageDBTest, WithoutADecoderKnownPictureFilesAreAccepted) {
     rs->SetFilter("ID=9"); // bytes of no known kind
     EXPECT_FALSE(modImageDB::LoadPictureFromField(target, *rs, "PictureData"));
     EXPECT_TRUE(target.empty());
-}
-
-TEST(MakeTempFileName, ReservesNewEmptyFilesAndAsksForTheFolderOnce) {
-    cardtest::TempFolder folder;
-    int asked = 0;
-    modImageDB::SetTempFolderSource([&] {
-        ++asked;
-        return folder.Path().string(); // no trailing separator
-    });
-    std::set<std::string> names;
-    for (int i = 0; i < 5; ++i) {
-        std::string name = modImageDB::MakeTempFileName("TMP");
-        EXPECT_EQ(std::filesystem::path(name).parent_path(), folder.Path());
-        EXPECT_EQ(std::filesystem::path(name).filename().string().rfind("TMP", 0), 0u);
-        EXPECT_TRUE(std::filesystem::is_regular_file(name));
-        EXPECT_EQ(std::filesystem::file_size(name), 0u);
-        names.insert(name);
-    }
-    EXPECT_EQ(names.size(), 5u);
-    EXPECT_EQ(asked, 1);
-    modImageDB::SetTempFolderSource(nullptr);
 }
 
 } // namespace

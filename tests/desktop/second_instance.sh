@@ -14,11 +14,11 @@ windows() { xdotool search --onlyvisible --name "$1" 2>/dev/null | wc -l; }
 
 "$app" &
 first=$!
-timeout 60 xdotool search --sync --onlyvisible --name '^Quillane v1\.20$' >/dev/null || fail "no launcher"
+timeout 20 xdotool search --sync --onlyvisible --name '^Quillane v1\.20$' >/dev/null || fail "no launcher"
 
 "$app" &
 second=$!
-box=$(timeout 60 xdotool search --sync --onlyvisible --name '^Quillane$' | head -n1) || fail "no message box"
+box=$(timeout 20 xdotool search --sync --onlyvisible --name '^Quillane$' | head -n1) || fail "no message box"
 [ "$(windows '^Quillane v1\.20$')" -eq 1 ] || fail "a second launcher came up"
 xdotool windowfocus --sync "$box" key Return
 for _ in $(seq 100); do kill -0 "$second" 2>/dev/null || break; sleep 0.2; done

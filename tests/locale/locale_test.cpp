@@ -57,8 +57,8 @@ TEST_P(UnderLocale, NamesMatchWithoutRegardToCase) {
 // Folder names are UTF-8 text to the program on every system.
 TEST_P(UnderLocale, FilesLiveInFoldersWithAnyLetters) {
     quillane::testing::ScratchDir scratch;
-    const std::string folder = PathToUtf8(scratch.Path()) + "/\xC3\x9C"
-                                                            "bungen \xC4\x9F\xC4\xB1";
+    std::string folder = PathToUtf8(scratch.Path()) + "/\xC3\x9C"
+                                                      "bungen \xC4\x9F\xC4\xB1";
     std::filesystem::create_directory(PathFromUtf8(folder));
     const std::string goal = folder + "/Goal1.txt";
     ReplaceFile(goal, "caf\xC3\xA9\r\n");

@@ -50,26 +50,6 @@ struct Draws : ::testing::Test {
 
 } // namespace
 
-TEST_F(Draws, SignificanceListHoldsTenDifferentSubjectsButNeverTheFirst) {
-    std::set<int> seen;
-    for (int run = 0; run < kRuns; ++run) {
-        Seed(run);
-        num::intSignificanceQuestion.fill(0);
-        num::BuildSignificanceQuestions();
-        std::set<int> distinct;
-        for (int k = 0; k <= 9; ++k) {
-            const int s = num::intSignificanceQuestion[std::size_t(k)];
-            EXPECT_GE(s, 1) << "run " << run;
-            EXPECT_LE(s, 14) << "run " << run;
-            distinct.insert(s);
-            seen.insert(s);
-        }
-        EXPECT_EQ(distinct.size(), 10u) << "run " << run;
-        EXPECT_EQ(num::intSignificanceQuestion[10], 0) << "the spare entry is never used";
-    }
-    EXPECT_EQ(seen.size(), 14u) << "every subject from 1 to 14 comes up";
-}
-
 TEST_F(Draws, DistractorsAreFiveDifferentEntriesAndLeaveTheSpareZero) {
     struct Case {
         const char* name;
@@ -92,17 +72,6 @@ TEST_F(Draws, DistractorsAreFiveDifferentEntriesAndLeaveTheSpareZero) {
         }
         EXPECT_TRUE(seen.count(c.low) && seen.count(c.high)) << c.name << ": both ends are reached";
     }
-}
-
-TEST_F(Draws, TheRightAnswerNeverGoesInTheFifthBox) {
-    std::map<int, int> places;
-    for (int run = 0; run < kRuns; ++run) {
-        Seed(run);
-        ++places[num::DrawAnswerPlace()];
-    }
-    EXPECT_EQ(places.size(), 4u);
-    EXPECT_EQ(places.begin()->first, 0);
-    EXPECT_EQ(places.rbegin()->first, 3);
 }
 
 TEST_F(Draws, InterpretationListHasFiveRowsOfEachTickedSubjectInOrder) {
@@ -133,18 +102,6 @@ TEST_F(Draws, InterpretationListHasFiveRowsOfEachTickedSubjectInOrder) {
         }
     }
     EXPECT_TRUE(laterRepeat) << "a later subject's rows are not kept apart from each other";
-}
-
-TEST_F(Draws, LifePathAloneAsksFromItsSecondRowOn) {
-    std::set<int> seen;
-    for (int run = 0; run < kRuns; ++run) {
-        Seed(run);
-        Tick({0});
-        num::BuildInterpretationQuestions();
-        for (long k = 0; k < 5; ++k)
-            seen.insert(num::intInterpretationQuestion(k));
-    }
-    EXPECT_EQ(seen, (std::set<int>{1, 2, 3, 4, 5, 6, 7, 8, 9, 10}));
 }
 
 TEST_F(Draws, RoundingGivesTheEndRowsOfASubjectHalfTheChance) {

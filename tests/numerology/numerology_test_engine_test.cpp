@@ -95,27 +95,6 @@ TEST_F(NumerologyTest, InterpretationAsksFiveQuestionsForEveryTickedSubject) {
     }
 }
 
-TEST_F(NumerologyTest, GoingOnWithoutAChoiceKeepsTheQuestion) {
-    StartSignificanceTest();
-    const std::string subject = C("lblSubjectName").Caption();
-    ASSERT_TRUE(Click("cmdNextQuestion"));
-    EXPECT_EQ(Message(), "Please select an option");
-    EXPECT_EQ(num::intCurrent, 0);
-    EXPECT_EQ(C("lblSubjectName").Caption(), subject);
-    EXPECT_EQ(num::strSignificanceAnswer[0], "");
-}
-
-TEST_F(NumerologyTest, APressOnAChoiceTextPicksItAndTheAnswerIsKeptAsText) {
-    StartSignificanceTest();
-    ASSERT_TRUE(Click("txtOption(4)"));
-    EXPECT_TRUE(C("optChoice(4)").Selected());
-    const std::string taken = C("txtOption(4)").Text();
-    ASSERT_TRUE(Click("cmdNextQuestion"));
-    EXPECT_EQ(num::strSignificanceAnswer[0], taken);
-    for (int i = 0; i <= 4; ++i)
-        EXPECT_FALSE(C("optChoice(" + std::to_string(i) + ")").Selected()) << "choices are reset";
-}
-
 TEST_F(NumerologyTest, TheSignificanceReportListsEveryQuestionAndCountsEqualTexts) {
     StartSignificanceTest();
     for (int k = 0; k <= 9; ++k) {

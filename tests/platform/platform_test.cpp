@@ -25,17 +25,6 @@ TEST(ProgramFolder, FilesLiveBesideTheProgramWhenItsFolderCanBeWritten) {
     EXPECT_TRUE(std::filesystem::is_empty(dir.Path())) << "the probe leaves nothing behind";
 }
 
-TEST(ProgramFolder, AFolderThatCannotBeWrittenSendsTheFilesToTheUsersDataFolder) {
-    ScratchDir dir, data;
-    // A folder below a plain file can never be written, whoever runs the test.
-    std::ofstream(dir.Path() / "plain") << "x";
-    qputenv("XDG_DATA_HOME", Q(data.Path()).toUtf8());
-    ProgramFolder folder(Q(dir.Path() / "plain" / "bin"), "quillane", "");
-    EXPECT_EQ(folder.FilesDir(), (data.Path() / "quillane").string());
-    EXPECT_TRUE(std::filesystem::is_directory(data.Path() / "quillane"));
-    qunsetenv("XDG_DATA_HOME");
-}
-
 TEST(InstanceLock, OnlyTheFirstInstanceRunsAndALeftLockIsTakenOver) {
     ScratchDir runtime;
     std::filesystem::permissions(runtime.Path(), std::filesystem::perms::owner_all);

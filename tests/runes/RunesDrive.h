@@ -1,6 +1,7 @@
 #pragma once
 // Driver sessions of the Runes window: a scratch program folder for the goal
-// notes, the window opened from the launcher, the first answers dropped.
+// notes and a user folder that sessions share, the window opened from the
+// launcher first.
 #include "DriveSession.h"
 
 #include <string>
@@ -8,18 +9,17 @@
 
 namespace quillane::testing {
 
+// A script on the Runes window: ".cmdNext" is frmLearnRunesMain.cmdNext.
+inline Script Runes() {
+    return Script("frmLearnRunesMain", {"start", "click frmMDI.cmdSelectOption(3)"});
+}
+
 class RunesSession {
 public:
-    // Runs the launcher, opens the Runes window, then the commands; answers
-    // one line per command given here.
-    std::vector<std::string> Run(std::vector<std::string> commands,
-                                 std::vector<std::string> options = {}) {
-        commands.insert(commands.begin(), {"start", "click frmMDI.cmdSelectOption(3)"});
+    std::vector<std::string> Run(const Script& script, std::vector<std::string> options = {}) {
         options.insert(options.end(), {"--program-dir", programDir, "--user-dir", user.Str(),
                                        "--today", "2026-11-20"});
-        auto answers = Drive(options, commands);
-        answers.erase(answers.begin(), answers.begin() + 2);
-        return answers;
+        return script.Run(options);
     }
     ScratchDir program, user;
     std::string programDir = program.Str();

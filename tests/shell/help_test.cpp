@@ -30,58 +30,44 @@ const Window kWindows[] = {
 
 TEST(Help, EveryWindowCarriesTheSameHelpMenu) {
     for (const auto& w : kWindows) {
-        std::vector<std::string> script{"start"};
+        Script s(w.form, {"start"});
         if (!w.open.empty())
-            script.push_back(w.open);
-        const std::string f = w.form + ".";
-        for (const std::string c : {"mnuHelp", "mnuOnline", "mnuVisit", "mnuUpdate", "mnuAbout"})
-            script.push_back("get " + f + c + ".Caption");
-        script.insert(script.end(),
-                      {"get " + f + w.sep1 + ".Caption", "get " + f + w.sep2 + ".Caption",
-                       "get " + f + w.money + ".Caption", "click " + f + "mnuOnline",
-                       "click " + f + "mnuVisit", "click " + f + w.forum, "opened"});
-        auto a = Drive({"--today", "2026-04-01"}, script);
-        const std::size_t k = w.open.empty() ? 1 : 2;
-        ASSERT_EQ(a.size(), k + 12) << w.form;
-        EXPECT_EQ(a[k], R"("&Help")") << w.form;
-        EXPECT_EQ(a[k + 1], R"("&Online Help")");
-        EXPECT_EQ(a[k + 2], R"("&Visit Us Online")");
-        EXPECT_EQ(a[k + 3], "\"" + w.update + "\"") << w.form;
-        EXPECT_EQ(a[k + 4], R"("&About Software")");
-        EXPECT_EQ(a[k + 5], R"("-")");
-        EXPECT_EQ(a[k + 6], R"("-")");
-        EXPECT_EQ(a[k + 7], R"("Make Money &Online")");
-        EXPECT_EQ(a[k + 11], "[" + kHelp + "," + kHome + "," + kHome + "]") << w.form;
+            s.Do(w.open);
+        s.Is("get .mnuHelp.Caption", R"("&Help")", w.form.c_str());
+        s.Is("get .mnuOnline.Caption", R"("&Online Help")");
+        s.Is("get .mnuVisit.Caption", R"("&Visit Us Online")");
+        s.Is("get .mnuUpdate.Caption", "\"" + w.update + "\"", w.form.c_str());
+        s.Is("get .mnuAbout.Caption", R"("&About Software")");
+        s.Is("get ." + w.sep1 + ".Caption", R"("-")");
+        s.Is("get ." + w.sep2 + ".Caption", R"("-")");
+        s.Is("get ." + w.money + ".Caption", R"("Make Money &Online")");
+        s.Do({"click .mnuOnline", "click .mnuVisit", "click ." + w.forum});
+        s.Is("opened", "[" + kHelp + "," + kHome + "," + kHome + "]", w.form.c_str());
+        s.Run({"--today", "2026-04-01"});
     }
 }
 
 TEST(Help, MakeMoneyAndBrandLinksOpenTheirPages) {
-    auto a =
-        Drive({}, {"start", "click frmMDI.mkmoney", "click frmMDI.Label7", "click frmMDI.Picture6",
-                   "click frmMDI.cmdSelectOption(1)", "click frmLearnNumerologyMain.lblCobrand",
-                   "click frmLearnNumerologyMain.lblFullBrand",
-                   "click frmLearnNumerologyMain.mnuMakeMoney", "click frmMDI.cmdSelectOption(3)",
-                   "click frmLearnRunesMain.mnuMakeMoney",
-                   "get frmLearnRunesMain.mnuCalculate.Visible", "opened"});
-    EXPECT_EQ(a[9], "error: hidden") << "the Runes window hides its Make Money entry";
-    EXPECT_EQ(a[10], "false");
-    EXPECT_EQ(a[11], "[" + kFull + "," + kFull + "," + kHome + "," + kCoBrand + "," + kFull + "," +
-                         kFull + "]");
+    Script s("frmMDI", {"start"});
+    s.Do({"click .mkmoney", "click .Label7", "click .Picture6", "click .cmdSelectOption(1)",
+          "click frmLearnNumerologyMain.lblCobrand", "click frmLearnNumerologyMain.lblFullBrand",
+          "click frmLearnNumerologyMain.mnuMakeMoney", "click .cmdSelectOption(3)"});
+    s.Is("click frmLearnRunesMain.mnuMakeMoney", "error: hidden", "the Runes hide Make Money");
+    s.Is("get frmLearnRunesMain.mnuCalculate.Visible", "false");
+    s.Is("opened", "[" + kFull + "," + kFull + "," + kHome + "," + kCoBrand + "," + kFull + "," +
+                       kFull + "]");
+    s.Run({});
 }
 
 TEST(Help, TheAboutBoxIsModalAndItsLinksOpenTheirPages) {
-    auto a = Drive({}, {"start", "click frmMDI.mnuAbout", "get frmAbout.Caption",
-                        "get frmAbout.Label2.Caption", "get frmAbout.cmdOK.Caption",
-                        "click frmMDI.cmdSelectOption(0)", "click frmAbout.lblCobrand",
-                        "click frmAbout.lblHomePage", "click frmAbout.cmdOK", "forms", "opened",
-                        "click frmMDI.cmdSelectOption(0)", "click frmLearnAstrologyMain.mnuAbout",
-                        "forms"});
-    EXPECT_EQ(a[2], R"("Quillane v1.20")");
-    EXPECT_EQ(a[3], R"("Quillane v1.20")");
-    EXPECT_EQ(a[4], R"("&OK")");
-    EXPECT_EQ(a[5], "error: disabled") << "the window behind the box waits";
-    EXPECT_EQ(a[9], R"(["frmMDI"])");
-    EXPECT_EQ(a[10], "[" + kFull + "," + kHome + "]")
-        << "lblCobrand of the About box opens the full-brand page";
-    EXPECT_EQ(a[13], R"(["frmMDI","frmLearnAstrologyMain","frmAbout"])");
+    Script s("frmAbout", {"start", "click frmMDI.mnuAbout"});
+    s.Is("get .Caption", R"("Quillane v1.20")");
+    s.Is("get .Label2.Caption", R"("Quillane v1.20")");
+    s.Is("click frmMDI.cmdSelectOption(0)", "error: disabled", "the window behind the box waits");
+    s.Do({"click .lblCobrand", "click .lblHomePage", "click .cmdOK"});
+    s.Is("forms", R"(["frmMDI"])");
+    s.Is("opened", "[" + kFull + "," + kHome + "]", "the About box's co-brand link: full brand");
+    s.Do({"click frmMDI.cmdSelectOption(0)", "click frmLearnAstrologyMain.mnuAbout"});
+    s.Is("forms", R"(["frmMDI","frmLearnAstrologyMain","frmAbout"])");
+    s.Run({});
 }

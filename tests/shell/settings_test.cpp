@@ -12,13 +12,6 @@ using namespace quillane;
 using namespace quillane::testing;
 
 namespace {
-std::string ReadFile(const std::filesystem::path& p) {
-    std::ifstream in(p, std::ios::binary);
-    return std::string(std::istreambuf_iterator<char>(in), {});
-}
-void WriteFile(const std::filesystem::path& p, const std::string& bytes) {
-    std::ofstream(p, std::ios::binary) << bytes;
-}
 QString Q(const ScratchDir& dir) {
     return QString::fromStdString(dir.Str());
 }
@@ -85,7 +78,7 @@ TEST(Settings, AMalformedStoreGivesDefaultsAndIsLeftAloneUntilAWrite) {
     std::ofstream(user2.Path() / "quillane.ini", std::ios::binary) << garbage;
     IniSettingsStore store(QString::fromStdString(user2.Str()));
     EXPECT_FALSE(store.Read("quillane", "Settings", "TestType"));
-    EXPECT_EQ(ReadFile(user2.Path() / "quillane.ini"), garbage);
+    EXPECT_EQ(ReadBytes(user2.Path() / "quillane.ini"), garbage);
 }
 
 TEST(Settings, StoredValuesAreReadWhateverBecomesOfAWrite) {
@@ -93,7 +86,7 @@ TEST(Settings, StoredValuesAreReadWhateverBecomesOfAWrite) {
     const auto file = user.Path() / "quillane.ini";
     // A value in Latin-1, as another program may have left it.
     const std::string stored = "[Settings]\r\nStoneGroup0=0\r\nNote=caf\xE9 au lait\r\n";
-    WriteFile(file, stored);
+    WriteBytes(file, stored);
     IniSettingsStore store(Q(user));
     std::vector<std::optional<std::string>> read; // checked once the disk has room for a report
     {
@@ -103,22 +96,22 @@ TEST(Settings, StoredValuesAreReadWhateverBecomesOfAWrite) {
             read.push_back(store.Read("quillane", "Settings", key));
     }
     EXPECT_EQ(read, (std::vector<std::optional<std::string>>{"0", "0", std::nullopt}));
-    EXPECT_EQ(ReadFile(file), stored) << "a write that failed left the file whole";
+    EXPECT_EQ(ReadBytes(file), stored) << "a write that failed left the file whole";
     store.Write("quillane", "Settings", "StoneGroup1", "1");
     EXPECT_EQ(store.Read("quillane", "Settings", "StoneGroup1"), "1");
     EXPECT_EQ(store.Read("quillane", "Settings", "Note"), "caf\xE9 au lait");
-    EXPECT_NE(ReadFile(file).find("Note=caf\xE9 au lait\r\n"), std::string::npos)
+    EXPECT_NE(ReadBytes(file).find("Note=caf\xE9 au lait\r\n"), std::string::npos)
         << "a line that no write was for stays byte for byte";
 
     // A header that can't be parsed still names its section, on every read.
-    WriteFile(file, "[Settings\nStoneGroup0=0\n");
+    WriteBytes(file, "[Settings\nStoneGroup0=0\n");
     EXPECT_EQ(store.Read("quillane", "Settings", "StoneGroup0"), "0");
     EXPECT_EQ(store.Read("quillane", "Settings", "StoneGroup0"), "0");
 }
 
 TEST(Settings, ALockThatStaysNeverHoldsTheProgramUp) {
     ScratchDir user;
-    WriteFile(user.Path() / "quillane.ini", "[Settings]\nStoneGroup0=0\n");
+    WriteBytes(user.Path() / "quillane.ini", "[Settings]\nStoneGroup0=0\n");
     // A folder in the lock's place, old enough to look left behind, which
     // can't be removed as a lock file can.
     const auto lock = user.Path() / "quillane.ini.lock";

@@ -2,11 +2,14 @@
 // Runs quillane-drive as a process: a script in, one answer a command out.
 #include "RunProgram.h"
 
+#include <gtest/gtest.h>
+
 #include <algorithm>
 #include <cstdio>
 #include <cstdlib>
 #include <filesystem>
 #include <fstream>
+#include <iterator>
 #include <random>
 #include <sstream>
 #include <string>
@@ -35,6 +38,15 @@ public:
 private:
     std::filesystem::path path_;
 };
+
+// A file's bytes, and a file made of bytes.
+inline std::string ReadBytes(const std::filesystem::path& path) {
+    std::ifstream in(path, std::ios::binary);
+    return {std::istreambuf_iterator<char>(in), std::istreambuf_iterator<char>()};
+}
+inline void WriteBytes(const std::filesystem::path& path, const std::string& bytes) {
+    std::ofstream(path, std::ios::binary) << bytes;
+}
 
 // Runs one driver process over the commands and answers the lines it printed.
 inline std::vector<std::string> Drive(const std::vector<std::string>& options,
@@ -77,7 +89,7 @@ inline std::vector<std::string> Drive(const std::vector<std::string>& options,
         arguments.insert(arguments.end(), {"--program-dir", program.string()});
     }
     // A driver that hangs is stopped, and its test fails on the missing answers.
-    const auto output = RunProgram(drive, arguments, script, 90);
+    const auto output = RunProgram(drive, arguments, script, 20);
     if (!output)
         return padded({});
     std::istringstream answers(*output);
@@ -87,9 +99,77 @@ inline std::vector<std::string> Drive(const std::vector<std::string>& options,
     return padded(lines);
 }
 
-// One command's answer, for scripts where only the last answer matters.
-inline std::string Last(const std::vector<std::string>& answers) {
-    return answers.empty() ? "" : answers.back();
-}
+// A driver script with what each answer must be written beside its command.
+// A path that starts with '.' belongs to the script's form: with the form
+// frmX, "click .cmdNext" is "click frmX.cmdNext".
+class Script {
+public:
+    explicit Script(std::string form = "", std::vector<std::string> opening = {})
+        : form_(std::move(form)), opening_(std::move(opening)) {}
+
+    // A command the driver must carry out: any answer but a refusal.
+    Script& Do(const std::string& command) { return Add(command, Check::NotRefused, ""); }
+    Script& Do(std::initializer_list<std::string> commands) {
+        for (const std::string& c : commands)
+            Do(c);
+        return *this;
+    }
+    // A command and its whole answer, or a part of it.
+    Script& Is(const std::string& command, const std::string& answer, const char* why = "") {
+        return Add(command, Check::Is, answer, why);
+    }
+    Script& Has(const std::string& command, const std::string& part, const char* why = "") {
+        return Add(command, Check::Has, part, why);
+    }
+    // A command whose answer the test reads itself after the run: its number.
+    std::size_t Ask(const std::string& command) {
+        Add(command, Check::None, "");
+        return steps_.size() - 1;
+    }
+    std::size_t Size() const { return steps_.size(); }
+
+    // Runs the script in one driver process and checks every answer; the
+    // answers of the script's own commands, by the numbers Ask gave.
+    std::vector<std::string> Run(const std::vector<std::string>& options) const {
+        std::vector<std::string> commands = opening_;
+        for (const Step& step : steps_)
+            commands.push_back(step.command);
+        auto answers = Drive(options, commands);
+        answers.erase(answers.begin(), answers.begin() + std::ptrdiff_t(opening_.size()));
+        for (std::size_t i = 0; i < steps_.size(); ++i) {
+            const Step& step = steps_[i];
+            const std::string& a = answers[i];
+            if (step.check == Check::NotRefused) {
+                EXPECT_NE(a.rfind("error", 0), 0u) << step.command << ": " << a;
+            } else if (step.check == Check::Is) {
+                EXPECT_EQ(a, step.expected) << step.command << " " << step.why;
+            } else if (step.check == Check::Has) {
+                EXPECT_NE(a.find(step.expected), std::string::npos)
+                    << step.command << ": " << a << " " << step.why;
+            }
+        }
+        return answers;
+    }
+
+private:
+    enum class Check { None, NotRefused, Is, Has };
+    struct Step {
+        std::string command;
+        Check check;
+        std::string expected;
+        const char* why;
+    };
+    Script& Add(std::string command, Check check, std::string expected, const char* why = "") {
+        const std::size_t blank = command.find(' ');
+        if (blank != std::string::npos && command.compare(blank + 1, 1, ".") == 0)
+            command.insert(blank + 1, form_);
+        steps_.push_back({std::move(command), check, std::move(expected), why});
+        return *this;
+    }
+
+    std::string form_;
+    std::vector<std::string> opening_;
+    std::vector<Step> steps_;
+};
 
 } // namespace quillane::testing

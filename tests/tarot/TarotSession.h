@@ -20,8 +20,8 @@ class Tarot : public ::testing::Test {
 protected:
     // A program folder with the deck (or without), a user folder, and the
     // options of a start; the window is opened unless told otherwise.
-    explicit Tarot(bool withDeck = true, std::function<void(drive::DriverOptions&)> adjust = {},
-                   bool open = true)
+    explicit Tarot(bool withDeck = true,
+                   const std::function<void(drive::DriverOptions&)>& adjust = {}, bool open = true)
         : platform(Options(dir, withDeck, adjust)) {
         if (!open)
             return;

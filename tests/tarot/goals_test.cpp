@@ -5,21 +5,12 @@
 #include "TarotSession.h"
 #include "goals/GoalFile.h"
 
-#include <fstream>
-#include <iterator>
-
 using namespace quillane;
+using quillane::testing::ReadBytes;
 using quillane::testing::Tarot;
+using quillane::testing::WriteBytes;
 
 namespace {
-
-std::string ReadBytes(const std::filesystem::path& path) {
-    std::ifstream in(path, std::ios::binary);
-    return std::string(std::istreambuf_iterator<char>(in), {});
-}
-void WriteBytes(const std::filesystem::path& path, const std::string& bytes) {
-    std::ofstream(path, std::ios::binary) << bytes;
-}
 
 TEST(GoalFile, TheNotationRoundTripsCommasLineBreaksAndFlags) {
     modGoals::GoalRecord a{

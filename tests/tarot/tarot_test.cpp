@@ -57,6 +57,28 @@ TEST_F(Tarot, TheSelectionRulesChooseTheirCards) {
     EXPECT_EQ(Number("SSTab1.Tab"), 1);
 }
 
+// Each stored setting, once ticked and once not, is what the next window
+// opens with.
+TEST_F(Tarot, SavedSettingsAreWhatTheNextWindowOpensWith) {
+    const std::vector<std::string> boxes = {"chkGroup(0)", "chkGroup(1)", "chkGroup(2)",
+                                            "chkGroup(3)", "chkMajor",    "chkMinor"};
+    for (const std::string ticks : {"010110", "101001"}) {
+        Do("set frmLearnTarotMain.chkMinor.Value 1"); // the groups can be changed
+        for (std::size_t i = 0; i < boxes.size(); ++i)
+            Do("set frmLearnTarotMain." + boxes[i] + ".Value " + ticks[i]);
+        const std::string level = ticks[0] == '0' ? "2" : "1", type = ticks.substr(0, 1);
+        Do("set frmLearnTarotMain.optDifficulty(" + level + ").Value true");
+        Do("set frmLearnTarotMain.optTestType(" + type + ").Value true");
+        Click("cmdSaveSettings");
+        Do("close frmLearnTarotMain");
+        Do("click frmMDI.cmdSelectOption(2)");
+        for (std::size_t i = 0; i < boxes.size(); ++i)
+            EXPECT_EQ(Number(boxes[i] + ".Value"), ticks[i] - '0') << boxes[i];
+        EXPECT_TRUE(Get("optDifficulty(" + level + ").Value").AsBool());
+        EXPECT_TRUE(Get("optTestType(" + type + ").Value").AsBool());
+    }
+}
+
 TEST_F(Tarot, TheWalkStopsOnePressPastEachEndAndRemembersIt) {
     Untick({"chkMinor"});
     Click("cmdSetOption");
@@ -168,6 +190,9 @@ TEST_P(WholeTest, TheReportListsEveryAnswerAsGiven) {
         at = end + 2;
     }
     ASSERT_EQ(lines.size(), 22u + 5);
+    // A card comes again only when as many draws as there are cards all fell on
+    // cards asked before: now and then, near the end.
+    EXPECT_GE(std::set<std::string>(names.begin(), names.end()).size(), 20u);
     EXPECT_EQ(lines[0], "Test Report For Quillane");
     EXPECT_EQ(lines[1], std::string(24, '-'));
     EXPECT_EQ(lines[2], "");
@@ -195,6 +220,18 @@ TEST_P(WholeTest, TheReportListsEveryAnswerAsGiven) {
     EXPECT_EQ(lines[26], summary) << "a keyword question with one right counts twice";
     EXPECT_EQ(Text("lblResultInfo.Caption"), summary);
     EXPECT_EQ(Number("txtResult.SelStart"), long(report.size()));
+
+    // Saving writes the report and a line end, or nothing, and says nothing.
+    const auto saved = dir.Path() / "report.txt";
+    for (const std::filesystem::path& file :
+         {std::filesystem::path(), dir.Path() / "none" / "x.txt", saved}) {
+        Do("savefile " + Json(file.string()).Dump());
+        Click("Command5");
+    }
+    EXPECT_EQ(Run("msgbox"), "null");
+    EXPECT_EQ(quillane::testing::ReadBytes(saved), report + "\r\n");
+    EXPECT_EQ(std::distance(std::filesystem::directory_iterator(dir.Path()), {}), 3)
+        << "a cancelled or failed save writes nothing";
 }
 
 INSTANTIATE_TEST_SUITE_P(EveryLevelAndType, WholeTest,
@@ -213,29 +250,6 @@ TEST_F(Tarot, ATickTooManyIsTakenBackAndSaysHowMany) {
         "You can select only 3 keywords.\r\nPlease unselect one before selecting another keyword");
     Click("chkKeywords(0)");
     EXPECT_FALSE(Get("cmdNextQuestion.Enabled").AsBool()) << "two ticks are not an answer";
-}
-
-TEST_F(Tarot, SavingWritesTheReportAndALineEndOrNothing) {
-    Untick({"chkMinor"});
-    Click("cmdStartTest2");
-    for (int q = 0; q < 22; ++q) {
-        for (int i = 0; i < 3; ++i)
-            Click("chkKeywords(" + std::to_string(i) + ")");
-        Click("cmdNextQuestion");
-    }
-    EXPECT_NE(Run("msgbox"), "null") << "the test is over";
-    const std::string report = Text("txtResult.Text");
-    const auto saved = dir.Path() / "report.txt";
-    Do("savefile \"\"");
-    Click("Command5");
-    EXPECT_FALSE(std::filesystem::exists(saved)) << "a cancelled dialog writes nothing";
-    Do("savefile " + Json(saved.string()).Dump());
-    Click("Command5");
-    std::ifstream in(saved, std::ios::binary);
-    EXPECT_EQ(std::string(std::istreambuf_iterator<char>(in), {}), report + "\r\n");
-    Do("savefile " + Json((dir.Path() / "no such folder" / "report.txt").string()).Dump());
-    EXPECT_EQ(Run("click frmLearnTarotMain.Command5"), "ok");
-    EXPECT_EQ(Run("msgbox"), "null") << "a failed save says nothing";
 }
 
 struct NoDeck : Tarot {

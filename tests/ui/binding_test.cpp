@@ -89,7 +89,9 @@ struct Adapters : ::testing::Test, quillane::testing::DesktopSession {
     QWidget* window = nullptr;
 };
 
-TEST_F(Adapters, TabsFollowTheModelAndTheUsersChoice) {
+TEST_F(Adapters, TheTitleAndTabsFollowTheModelAndTheUsersChoice) {
+    app->Dispatch([&] { form->Me().SetCaption("Renamed"); });
+    EXPECT_EQ(window->windowTitle(), "Renamed");
     auto* tabs = Widget<QTabWidget>("SSTab1");
     EXPECT_EQ(tabs->tabText(2), "Tab 2");
     app->Dispatch([&] { form->tabs.SetTabEnabled(2, false); });
