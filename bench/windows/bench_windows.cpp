@@ -82,7 +82,7 @@ double Median(std::vector<double> v) {
 }
 
 struct Bench {
-    testing::DesktopSession session;
+    quillane::testing::DesktopSession session;
     bool failed = false;
 
     QWidget* Launcher() const { return session.MainWindow(); }
