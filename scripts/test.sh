@@ -37,7 +37,11 @@ base=""
 for main in main origin/main; do
   base=$(git merge-base HEAD "$main" 2>/dev/null) && break
 done
-if [ -z "${QUILLANE_TIDY_ALL:-}" ] && [ -n "$base" ] && [ "$base" != "$(git rev-parse HEAD)" ]; then
+# On main itself, what the newest commit changed (all of a merge's branch).
+if [ "$base" = "$(git rev-parse HEAD)" ]; then
+  base=$(git rev-parse -q --verify HEAD~1 || true)
+fi
+if [ -z "${QUILLANE_TIDY_ALL:-}" ] && [ -n "$base" ]; then
   # A changed header counts as a change of the sources of the same name.
   changed=$(git diff --name-only --diff-filter=d "$base" -- src tests bench deck |
     sed -n 's/\.\(cpp\|h\)$//p' | sed "s|^|$PWD/|" | sort -u)
