@@ -210,6 +210,10 @@ public:
     std::int32_t lngCorrectCount = 0;
 
 private:
+    // A control of the window that stands on one page of the tab strip.
+    Control& OnTab(ControlKind kind, const char* name, int tab) {
+        return SSTab1.Place(Add(kind, name, &SSTab1), tab);
+    }
     void BuildSettingsTab();
     void BuildMemorizeTab();
     void BuildTestTab();
