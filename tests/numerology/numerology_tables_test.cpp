@@ -72,17 +72,11 @@ TEST_F(NumerologyTables, SubjectsCoverEveryRowOnceAndTellThemselvesApart) {
                                          num::strSignificance.begin() + 15);
     EXPECT_EQ(distinct.size(), 15u);
     for (int s = 0; s < 15; ++s) {
-        const std::string& text = num::strCalculation[s];
-        EXPECT_FALSE(text.empty());
-        long crlf = 0;
-        for (std::size_t at = text.find("\r\n"); at != std::string::npos;
-             at = text.find("\r\n", at + 2))
-            ++crlf;
-        EXPECT_EQ(std::count(text.begin(), text.end(), '\r') +
-                      std::count(text.begin(), text.end(), '\n'),
-                  2 * crlf)
-            << "lines are joined by CR LF";
-        EXPECT_NE(text.back(), '\n');
+        std::string text = num::strCalculation[s];
+        EXPECT_FALSE(text.empty() || text.back() == '\n');
+        for (std::size_t at; (at = text.find("\r\n")) != std::string::npos;)
+            text.replace(at, 2, " ");
+        EXPECT_EQ(text.find_first_of("\r\n"), std::string::npos) << "lines are joined by CR LF";
     }
 }
 
