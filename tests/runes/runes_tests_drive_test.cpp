@@ -6,7 +6,6 @@
 
 #include <gtest/gtest.h>
 
-#include <algorithm>
 #include <regex>
 
 namespace {
@@ -116,19 +115,9 @@ TEST(RuneKeywordTest, AdvancedWantsExactlyFourTicks) {
 }
 
 TEST(RuneMeaningTest, AnAbandonedKeywordTestCarriesItsPointsOver) {
-    // The right box of the first question, from a first run of the same seed.
-    Script peek = KeywordTest(0);
-    const std::size_t right = peek.Ask("get modLearnRunesTest.strCorrectKeyword");
-    peek.Ask("get modLearnRunesTest.strKeywordOption");
-    const auto p = RunesSession().Run(peek, {"--seed", "21"});
-    const auto keyword = Json::Parse(p[right]), options = Json::Parse(p[right + 1]);
-    ASSERT_TRUE(keyword && keyword->IsArray() && options && options->IsArray());
-    const auto& list = options->AsArray();
-    const auto box = std::find(list.begin(), list.end(), keyword->AsArray()[0]) - list.begin();
-    ASSERT_LT(box, 5);
-
+    // With this seed the first box of the first question is right.
     Script s = KeywordTest(0);
-    s.Do({"click .chkKeywords(" + std::to_string(box) + ")", "click .cmdNextQuestion"});
+    s.Do({"click .chkKeywords(0)", "click .cmdNextQuestion"});
     s.Is("get modLearnRunesTest.intTotalCorrect", "1");
     MeaningTest(s, 0, "1");
     s.Is("forms", R"(["frmMDI","frmLearnRunesMain","frmLearnRunesMeaningTest"])");
@@ -146,7 +135,7 @@ TEST(RuneMeaningTest, AnAbandonedKeywordTestCarriesItsPointsOver) {
     s.Is("get modLearnRunesTest.intTotalCorrect", "0");
     s.Is("get frmMDI.picMain.Visible", "false", "a subject is open: the welcome panel stays away");
     // The abandoned test's point counts in the next one.
-    CheckTotal(RunesSession().Run(s, {"--seed", "21"})[report], 1, "Descriptions");
+    CheckTotal(RunesSession().Run(s, {"--seed", "1"})[report], 1, "Descriptions");
 }
 
 TEST(RuneMeaningTest, AdvancedWantsExactlyFourTicksAndFlagsStaySet) {
