@@ -42,19 +42,9 @@ TEST(Generator, DrawsStayInTheHalfOpenUnitInterval) {
 
 TEST(Generator, ReseedingFromAStoppedClockStillMovesOn) {
     // A draw loop that re-seeds before every draw within one clock tick must
-    // not repeat one value forever.
+    // not repeat one value forever, nor leave out some.
     Generator g;
     g.SetClock([] { return 40000.5; });
-    g.Randomize();
-    const float first = g.Rnd();
-    int draws = 1;
-    float x = first;
-    while (x == first && draws < 1000) {
-        g.Randomize();
-        x = g.Rnd();
-        ++draws;
-    }
-    EXPECT_NE(x, first);
     std::set<int> indexes;
     for (int i = 0; i < 200; ++i) {
         g.Randomize();
