@@ -1,6 +1,6 @@
 // A whole test through the driver, from the launcher to the report and back:
-// each question as the driver shows it, answered by clicks on options and on
-// the texts beside them, and the report rebuilt here from what was shown.
+// each question as the driver shows it, answered by a click on an option, and
+// the report rebuilt here from what was shown.
 #include "DriveSession.h"
 #include "astrology/modLearnAstrology.h"
 #include "common/Json.h"
@@ -32,8 +32,7 @@ std::string Str(const std::string& answer) {
 
 } // namespace
 
-// A test of signs by Lucky Number: question q is answered with choice q % 5,
-// by a click on its option or, every third, on its text.
+// A test of signs by Lucky Number: question q is answered with choice q % 5.
 TEST(AstrologyScenario, ATestOfLuckyNumbersFromTheLauncherToTheReportAndBack) {
     mla::LoadSignTables();
     Script s("frmLearnAstrologyMain", {"start", "click frmMDI.cmdSelectOption(0)"});
@@ -45,10 +44,8 @@ TEST(AstrologyScenario, ATestOfLuckyNumbersFromTheLauncherToTheReportAndBack) {
         shown.push_back(s.Ask("get .lblTest(2).Caption"));
         s.Ask("get .picTest.Picture");
         s.Ask("get .optAnswer_Choice(" + pick + ").Caption");
-        s.Ask("get .txtAnswer_Choice(" + pick + ").Text");
         s.Is("get .optAnswer_Choice(0).Value", "true", "each question opens on its first");
-        s.Do((q % 3 == 0 ? "click .txtAnswer_Choice(" : "click .optAnswer_Choice(") + pick + ")");
-        s.Is("get .optAnswer_Choice(" + pick + ").Value", "true", "the click picks it");
+        s.Do("click .optAnswer_Choice(" + pick + ")");
         s.Do("click .cmdNextQuestion");
     }
     const std::size_t report = s.Ask("get .RTB.Text"), bold = s.Ask("get .RTB.BoldText");
@@ -86,7 +83,6 @@ TEST(AstrologyScenario, ATestOfLuckyNumbersFromTheLauncherToTheReportAndBack) {
         EXPECT_EQ(Str(a[at]), mla::strSign[row]) << q;
         EXPECT_EQ(Str(a[at + 1]), "imgSign " + std::to_string(row + 1)) << q;
         answers.push_back(Str(a[at + 2]));
-        EXPECT_EQ(Str(a[at + 3]), answers.back()) << "an option and its box agree";
         score += answers.back() == right[row];
         const std::string question = "Question: " + mla::strSign[row] + "\r\n";
         expected += question + "Correct Answer: " + right[row] +
