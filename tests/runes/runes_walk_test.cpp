@@ -94,6 +94,7 @@ TEST(RuneWalk, SubjectButtonAndAnEmptySelectionLeaveTheWalkStanding) {
     s.Do({"click .cmdSubjects(0)", "click .cmdSaveSettings", "click .chkGroups(0)",
           "click .chkGroups(1)", "click .chkGroups(2)", "click .cmdMemorize"});
     s.Has("msgbox", "Please Select A Stone Group");
+    s.Is("setting StoneGroup0", "\"1\"", "nothing stored");
     s.Is("get modLearnRunes.intSelectedStone", "[0]");
     s.Is("get .lblStoneName.Caption", Quoted("Fehu"));
     s.Is("get .picStone(0).Picture", Img(2), "the list has no entry 1: the old picture stays");
