@@ -1,6 +1,6 @@
 // The driver's commands for tabs, list views, user controls, locked boxes,
-// controls on one spot, the tray and its pop-up menu and the form's own dump,
-// over a sample form.
+// controls on one spot, the tray and its pop-up menu, the form's own dump and
+// the pages printed, over a sample form.
 #include "DriveSession.h"
 #include "SamplerForm.h"
 #include "app/Composition.h"
@@ -96,6 +96,14 @@ TEST_F(DriverCommands, TheTrayPopsUpItsMenuAndTakesOnePick) {
     EXPECT_EQ(Run("trayevent 515"), "null");
     EXPECT_EQ(Run("trayevent 514"), "null");
     EXPECT_EQ(Form().picks, (std::vector<std::string>{"exit", "show"}));
+}
+
+// Each page printed, whole (the Numerology window's pages are checked in
+// process, and on paper by the widget tests).
+TEST_F(DriverCommands, PrintedAnswersEachPageWhole) {
+    EXPECT_EQ(Run("printed"), "[]");
+    ASSERT_TRUE(program.App().Svc().printer->Print({{"Report\r\n", true}, {"10 Correct"}}));
+    EXPECT_EQ(Run("printed"), R"(["Report\r\n10 Correct"])");
 }
 
 TEST_F(DriverCommands, AnyPathIsAnsweredInOneLineAtOnce) {
