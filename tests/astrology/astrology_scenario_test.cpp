@@ -48,10 +48,9 @@ TEST(AstrologyScenario, ATestOfLuckyNumbersFromTheLauncherToTheReportAndBack) {
         s.Do("click .optAnswer_Choice(" + pick + ")");
         s.Do("click .cmdNextQuestion");
     }
-    const std::size_t report = s.Ask("get .RTB.Text"), bold = s.Ask("get .RTB.BoldText");
+    const std::size_t report = s.Ask("get .RTB.Text");
     const std::size_t kept = s.Ask("get .strUserAnswer");
     s.Is("get .Frame4.InFront", "true");
-    s.Is("get .intCurrent", "11");
     s.Is("click .cmdNextQuestion", "error: hidden", "a finished test has no way back in");
     s.Do("click .cmdBackToMain(1)");
     s.Is("get .Frame1.InFront", "true");
@@ -74,8 +73,7 @@ TEST(AstrologyScenario, ATestOfLuckyNumbersFromTheLauncherToTheReportAndBack) {
     // is that of the row asked by the question's number.
     std::string expected =
         "Quillane Learn Astrology Result\r\n\r\nTest By Signs - Lucky Number\r\n\r\n";
-    std::vector<std::string> bolds, answers;
-    std::string pending = expected;
+    std::vector<std::string> answers;
     int score = 0;
     for (std::size_t q = 0; q < 12; ++q) {
         const std::size_t at = shown[q];
@@ -84,18 +82,11 @@ TEST(AstrologyScenario, ATestOfLuckyNumbersFromTheLauncherToTheReportAndBack) {
         EXPECT_EQ(Str(a[at + 1]), "imgSign " + std::to_string(row + 1)) << q;
         answers.push_back(Str(a[at + 2]));
         score += answers.back() == right[row];
-        const std::string question = "Question: " + mla::strSign[row] + "\r\n";
-        expected += question + "Correct Answer: " + right[row] +
+        expected += "Question: " + mla::strSign[row] + "\r\nCorrect Answer: " + right[row] +
                     "\r\nYour Answer: " + answers.back() + "\r\n\r\n";
-        bolds.push_back(pending + question + "Correct Answer: ");
-        bolds.push_back("Your Answer: ");
-        pending.clear();
     }
     EXPECT_GT(score, 0) << "the seed gives some right answers";
-    const std::string last = std::to_string(score) + " Correct out of 12 Questions";
-    bolds.push_back(last);
-    EXPECT_EQ(Str(a[report]), expected + last);
-    EXPECT_EQ(Strings(a[bold]), bolds);
+    EXPECT_EQ(Str(a[report]), expected + std::to_string(score) + " Correct out of 12 Questions");
     answers.push_back("");
     EXPECT_EQ(Strings(a[kept]), answers) << "answers are kept as text";
 }

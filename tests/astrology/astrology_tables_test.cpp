@@ -157,17 +157,8 @@ TEST_F(AstrologyTables, EachCategoryCaptionSelectsItsColumn) {
             EXPECT_EQ(chosen.size() == 11, t.main == mla::kPlanets);
         }
         EXPECT_EQ(mla::NamesColumn(t.main).data(), t.columns[0].data());
-        // Outside the list the last column stands in.
-        for (int sub : {size, 100, -1})
-            EXPECT_EQ(mla::ValuesColumn(t.main, sub).data(),
-                      mla::ValuesColumn(t.main, size - 1).data());
     }
     EXPECT_EQ(pairs.Value(), 0xa0265b99ab147e60u) << "new digest " << pairs.Hex();
-    // Any other main category means houses.
-    for (int main : {3, 99, -1}) {
-        EXPECT_EQ(mla::CategoryCaptions(main), mla::CategoryCaptions(mla::kHouses));
-        EXPECT_EQ(mla::NamesColumn(main).data(), mla::strHouseKey.data());
-    }
 }
 
 } // namespace
