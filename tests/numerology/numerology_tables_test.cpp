@@ -38,9 +38,9 @@ protected:
     void SetUp() override { num::LoadNumerologyTables(); }
 };
 
-// One digest per table stands for its texts and numbers; a deliberate change
-// updates the constant here in the same commit. Loading again restores them,
-// and the spare subject entry stays empty.
+// One digest per table stands for its texts and numbers, the spare entries
+// included; a deliberate change updates the constant here in the same
+// commit. Loading again restores them.
 TEST_F(NumerologyTables, EachTableMatchesItsDigestAgainAfterAReload) {
     num::strSubject[15] = "stray";
     num::intFirstRow[15] = 99;
@@ -48,9 +48,6 @@ TEST_F(NumerologyTables, EachTableMatchesItsDigestAgainAfterAReload) {
     num::strInterpretation[170] = "changed";
     num::intNumber[0] = 42;
     num::LoadNumerologyTables();
-    EXPECT_TRUE(num::strSubject[15].empty() && num::strSignificance[15].empty() &&
-                num::strCalculation[15].empty());
-    EXPECT_EQ(num::intFirstRow[15] + num::intLastRow[15], 0);
     quillane::testing::TableDigest subjects;
     subjects.AddAll(num::strSubject).AddAll(num::strSignificance).AddAll(num::strCalculation);
     subjects.AddAll(Numbers(num::intFirstRow)).AddAll(Numbers(num::intLastRow));
