@@ -22,7 +22,6 @@ const char* const kKeys[8] = {"StoneGroup0",   "StoneGroup1",   "StoneGroup2",  
 TEST(RuneSettings, AFirstRunStoresAllTickedAndASavedChoiceIsReadBack) {
     RunesSession session;
     Script first = Runes();
-    first.Is("get .picSettings.InFront", "true");
     for (const char* key : kKeys)
         first.Is(std::string("setting ") + key, "\"1\"", key);
     first.Do({"click .chkGroups(0)", "click .chkMeanings(1)", "click .chkObjects(0)",
@@ -31,7 +30,8 @@ TEST(RuneSettings, AFirstRunStoresAllTickedAndASavedChoiceIsReadBack) {
     Script again = Runes();
     const char* const stored = "01110101";
     for (int i = 0; i < 8; ++i)
-        again.Is(std::string("setting ") + kKeys[i], Quoted(std::string(1, stored[i])), kKeys[i]);
+        again.Is(std::string("setting ") + kKeys[i], JsonQuote(std::string(1, stored[i])),
+                 kKeys[i]);
     again.Is("get .chkMeanings(1).Value", "0");
     again.Is("get .chkObjects(1).Value", "1");
     again.Is("get modLearnRunes.intSelectedStone",

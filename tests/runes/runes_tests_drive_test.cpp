@@ -56,7 +56,7 @@ void ExactlyFourTicks(Script& s, const std::string& form, const std::string& box
     for (int i = 0; i <= 4; ++i) {
         tick(i);
         if (i >= 3)
-            s.Is("focus " + form, Quoted(box + "(" + std::to_string(i) + ")"),
+            s.Is("focus " + form, JsonQuote(box + "(" + std::to_string(i) + ")"),
                  "ticks before a failed Next do not count");
         if (i == 2 || i == 4)
             refused();
@@ -66,7 +66,7 @@ void ExactlyFourTicks(Script& s, const std::string& form, const std::string& box
     s.Is("msgbox", "null", "four ticks are taken");
     for (int i = 0; i <= 3; ++i)
         tick(i);
-    s.Is("focus " + form, Quoted(next), "four ticks on the next question");
+    s.Is("focus " + form, JsonQuote(next), "four ticks on the next question");
 }
 
 TEST(RuneKeywordTest, BeginnerFromTheWizardToTheReport) {
@@ -121,7 +121,6 @@ TEST(RuneMeaningTest, AnAbandonedKeywordTestCarriesItsPointsOver) {
     s.Is("forms", R"(["frmMDI","frmLearnRunesMain","frmLearnRunesMeaningTest"])");
     s.Is("get frmLearnRunesMeaningTest.lblMeaningTestQuestion.Caption", "\"Question 1\"");
     s.Is("click .cmdSubjects(0)", "error: hidden", "the Runes window is hidden");
-    s.Is("get modLearnRunesTest.blnStoneType", "[false,true,false,false]");
     for (int q = 1; q <= 23; ++q)
         s.Do({"click frmLearnRunesMeaningTest.chkMeaning(" + std::to_string(q % 5) + ")",
               "click frmLearnRunesMeaningTest.cmdNextQuestion1"});
@@ -130,7 +129,6 @@ TEST(RuneMeaningTest, AnAbandonedKeywordTestCarriesItsPointsOver) {
     s.Is("get .Visible", "true");
     s.Is("get .picTestResult.InFront", "true");
     const std::size_t report = s.Ask("get .txtResult.Text");
-    s.Is("get modLearnRunesTest.intTotalCorrect", "0");
     s.Is("get frmMDI.picMain.Visible", "false", "a subject is open: the welcome panel stays away");
     // The abandoned test's point counts in the next one.
     CheckTotal(RunesSession().Run(s, {"--seed", "1"})[report], 1, "Descriptions");

@@ -14,7 +14,7 @@ using namespace quillane::testing;
 using quillane::modLearnRunes::strStoneName;
 
 std::string Img(int n) {
-    return Quoted("IMG " + std::to_string(n));
+    return JsonQuote("IMG " + std::to_string(n));
 }
 
 // Unticks the groups not selected and presses cmdMemorize.
@@ -43,9 +43,10 @@ TEST(RuneWalk, PicturesFollowThePositionNotTheStoneBothWays) {
             if (step > 0)
                 s.Do(step < n ? "click .cmdNext" : "click .cmdBack");
             const int picture = step == 0 ? stones[1] : p + 1;
-            s.Is("get .lblStoneName.Caption", Quoted(strStoneName[std::size_t(stones[p])]));
+            s.Is("get .lblStoneName.Caption", JsonQuote(strStoneName[std::size_t(stones[p])]));
             s.Is("get .picStone(0).Picture", Img(picture));
-            s.Is("get .picStone(1).Picture", Quoted("IMG " + std::to_string(picture) + " rot180"));
+            s.Is("get .picStone(1).Picture",
+                 JsonQuote("IMG " + std::to_string(picture) + " rot180"));
             s.Is("get .picStone(2).Picture", Img(25), "the merkstave column is the blank stone");
         }
         RunesSession().Run(s);
@@ -63,14 +64,13 @@ TEST(RuneWalk, EachEndTakesOneMorePress) {
                    R"("title":"Quillane","icon":"information","buttons":"yesno","answer":"no"})");
     s.Is("get .cmdNext.Enabled", "false");
     s.Is("get modLearnRunes.intStoneIndex", "7");
-    s.Is("get .lblStoneName.Caption", Quoted("Wunjo"), "No leaves the last stone on show");
-    s.Is("get .picMemorizeStones.InFront", "true");
+    s.Is("get .lblStoneName.Caption", JsonQuote("Wunjo"), "No leaves the last stone on show");
     for (int i = 0; i < 7; ++i)
         s.Do("click .cmdBack");
     s.Is("get .cmdBack.Enabled", "true", "back on the first stone, Back is still enabled");
     s.Do("click .cmdBack");
     s.Is("get .cmdBack.Enabled", "false");
-    s.Is("get .lblStoneName.Caption", Quoted("Fehu"));
+    s.Is("get .lblStoneName.Caption", JsonQuote("Fehu"));
     s.Do({"answer yes", "click .cmdNext"});
     for (int i = 0; i < 7; ++i)
         s.Do("click .cmdNext");
@@ -84,19 +84,19 @@ TEST(RuneWalk, EachEndTakesOneMorePress) {
 TEST(RuneWalk, SubjectButtonAndAnEmptySelectionLeaveTheWalkStanding) {
     Script s = Runes();
     s.Do({"click .cmdSubjects(1)", "click .cmdNext", "click .cmdNext", "click .cmdSubjects(1)"});
-    s.Is("get .lblStoneName.Caption", Quoted("Thurisaz"));
+    s.Is("get .lblStoneName.Caption", JsonQuote("Thurisaz"));
     s.Is("get .cmdBack.Enabled", "false");
     s.Is("get modLearnRunes.intStoneIndex", "0");
     s.Do("click .cmdNext");
-    s.Is("get .lblStoneName.Caption", Quoted("Uruz"), "Next shows the list's entry 1");
-    s.Is("get .txtKeywords.Text", Quoted("Beginnings, Spirituality, Opportunity, Harmony"));
-    s.Is("get .txtAlternativeNames.Text", Quoted("Uraz, Uros, Ur"));
+    s.Is("get .lblStoneName.Caption", JsonQuote("Uruz"), "Next shows the list's entry 1");
+    s.Is("get .txtKeywords.Text", JsonQuote("Beginnings, Spirituality, Opportunity, Harmony"));
+    s.Is("get .txtAlternativeNames.Text", JsonQuote("Uraz, Uros, Ur"));
     s.Do({"click .cmdSubjects(0)", "click .cmdSaveSettings", "click .chkGroups(0)",
           "click .chkGroups(1)", "click .chkGroups(2)", "click .cmdMemorize"});
     s.Has("msgbox", "Please Select A Stone Group");
     s.Is("setting StoneGroup0", "\"1\"", "nothing stored");
     s.Is("get modLearnRunes.intSelectedStone", "[0]");
-    s.Is("get .lblStoneName.Caption", Quoted("Fehu"));
+    s.Is("get .lblStoneName.Caption", JsonQuote("Fehu"));
     s.Is("get .picStone(0).Picture", Img(2), "the list has no entry 1: the old picture stays");
     s.Is("get .picStone(1).Picture", Img(2), "turned once more, back upright");
     s.Is("get .picMemorizeStones.InFront", "true");
