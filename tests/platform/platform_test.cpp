@@ -25,44 +25,30 @@ TEST(ProgramFolder, FilesLiveBesideTheProgramWhenItsFolderCanBeWritten) {
     EXPECT_TRUE(std::filesystem::is_empty(dir.Path())) << "the probe leaves nothing behind";
 }
 
+// Only the first instance of a program runs. A lock left by a run that
+// crashed, or one that names no process, is taken over and works again.
 TEST(InstanceLock, OnlyTheFirstInstanceRunsAndALeftLockIsTakenOver) {
-    ScratchDir runtime;
-    std::filesystem::permissions(runtime.Path(), std::filesystem::perms::owner_all);
-    qputenv("XDG_RUNTIME_DIR", Q(runtime.Path()).toUtf8());
-    {
-        LockFileInstance first("quillane-test");
-        EXPECT_FALSE(first.AnotherInstanceRunning());
-        LockFileInstance second("quillane-test");
-        EXPECT_TRUE(second.AnotherInstanceRunning());
-        LockFileInstance other("another-program");
-        EXPECT_FALSE(other.AnotherInstanceRunning()) << "one lock per program";
-    }
-    // A lock whose owner is gone does not keep the program out.
-    std::ofstream(runtime.Path() / "quillane-test.lock")
-        << "999999\nquillane-test\n"
-        << QSysInfo::machineHostName().toStdString() << "\n";
-    LockFileInstance again("quillane-test");
-    EXPECT_FALSE(again.AnotherInstanceRunning());
-    qunsetenv("XDG_RUNTIME_DIR");
-}
-
-TEST(InstanceLock, ALockThatNamesNoProcessIsStale) {
     namespace fs = std::filesystem;
     ScratchDir runtime;
     fs::permissions(runtime.Path(), fs::perms::owner_all);
     qputenv("XDG_RUNTIME_DIR", Q(runtime.Path()).toUtf8());
     const auto path = runtime.Path() / "quillane-test.lock";
-    const std::pair<const char*, std::function<void()>> unreadable[] = {
+    const std::string host = QSysInfo::machineHostName().toStdString() + "\n";
+    const std::pair<const char*, std::function<void()>> left[] = {
+        {"no lock", [] {}},
+        {"a crashed run's lock", [&] { std::ofstream(path) << "999999\nquillane-test\n" + host; }},
         {"an empty file", [&] { std::ofstream{path}; }},
         {"garbage", [&] { std::ofstream(path) << "\x01\x02 no process\n"; }},
         {"a folder", [&] { fs::create_directory(path); }},
     };
-    for (const auto& [what, make] : unreadable) {
+    for (const auto& [what, make] : left) {
         make();
         LockFileInstance first("quillane-test");
         EXPECT_FALSE(first.AnotherInstanceRunning()) << what;
         LockFileInstance second("quillane-test");
-        EXPECT_TRUE(second.AnotherInstanceRunning()) << "the lock works again after " << what;
+        EXPECT_TRUE(second.AnotherInstanceRunning()) << "the lock works after " << what;
+        LockFileInstance other("another-program");
+        EXPECT_FALSE(other.AnotherInstanceRunning()) << "one lock per program";
     }
     qunsetenv("XDG_RUNTIME_DIR");
 }

@@ -3,11 +3,14 @@
 // notes and a user folder that sessions share, the window opened from the
 // launcher first.
 #include "DriveSession.h"
+#include "common/Json.h"
 
 #include <string>
 #include <vector>
 
 namespace quillane::testing {
+
+using quillane::JsonQuote;
 
 // A script on the Runes window: ".cmdNext" is frmLearnRunesMain.cmdNext.
 inline Script Runes() {
@@ -24,9 +27,5 @@ public:
     ScratchDir program, user;
     std::string programDir = program.Str();
 };
-
-inline std::string Quoted(const std::string& s) {
-    return "\"" + s + "\"";
-}
 
 } // namespace quillane::testing
