@@ -7,11 +7,8 @@
 #include "numerology/modLearnNumerologyState.h"
 #include "ui/binding/Binder.h"
 
-#include <QAbstractButton>
-#include <QCheckBox>
 #include <QComboBox>
 #include <QLabel>
-#include <QMdiSubWindow>
 #include <QPlainTextEdit>
 #include <QRadioButton>
 #include <QScrollArea>
@@ -61,10 +58,6 @@ struct Windows : ::testing::Test, quillane::testing::DesktopSession {
     }
     void Click(const char* form, const std::string& control) {
         app->Dispatch([&] { Model(form, control).UserClick(); });
-    }
-    QWidget* Frame(const std::string& form) {
-        QWidget* w = host->WindowOf(form);
-        return w ? w->parentWidget() : nullptr;
     }
 };
 
@@ -186,26 +179,6 @@ TEST_F(Windows, RunesPicturesAndTextBoxesHaveTheirSizeAndScrollBars) {
                   Qt::ScrollBarAlwaysOn)
             << box;
     EXPECT_FALSE(root->findChild<QLabel*>("picStone(1)")->pixmap().isNull());
-}
-
-TEST_F(Windows, RunesTheDialogStandsInForTheHiddenWindowUntilItCloses) {
-    Press({"cmdSelectOption(3)"});
-    for (const char* c : {"cmdSubjects(2)", "optTestSubjects(0)", "cmdTestNext(0)",
-                          "chkTestType(0)", "cmdTestNext(1)", "optTestLevel(1)", "cmdTestNext(2)"})
-        Click(kRunes, c);
-    ASSERT_TRUE(host->WindowOf("frmLearnRunesMeaningTest"));
-    EXPECT_TRUE(qobject_cast<QMdiSubWindow*>(Frame("frmLearnRunesMeaningTest")));
-    EXPECT_TRUE(Frame("frmLearnRunesMeaningTest")->isVisible());
-    EXPECT_FALSE(Frame(kRunes)->isVisible()) << "the Runes window is out of view";
-    QWidget* dialog = host->WindowOf("frmLearnRunesMeaningTest");
-    EXPECT_TRUE(dialog->findChild<QWidget*>("chkMeaning(7)")->isVisible());
-
-    // The title bar's close button in mid-test.
-    Frame("frmLearnRunesMeaningTest")->close();
-    QApplication::processEvents();
-    EXPECT_EQ(app->Find("frmLearnRunesMeaningTest"), nullptr);
-    ASSERT_TRUE(Frame(kRunes));
-    EXPECT_TRUE(Frame(kRunes)->isVisible()) << "the Runes window comes back";
 }
 
 // A step of the walk sets on the widgets only the properties that changed,
