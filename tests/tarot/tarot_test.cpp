@@ -21,7 +21,6 @@ namespace {
 
 TEST_F(Tarot, TheSelectionRulesChooseTheirCards) {
     EXPECT_EQ(Number("SSTab1.Tab"), 1);
-    EXPECT_EQ(Text("SSTab1.TabCaption(4)"), "       Results        ");
     Click("cmdSetOption");
     EXPECT_EQ(Cards(), 78) << "a first start ticks every group";
     EXPECT_EQ(Number("lngCardCount"), 78);
@@ -194,25 +193,18 @@ TEST_P(WholeTest, TheReportListsEveryAnswerAsGiven) {
     // cards asked before: now and then, near the end.
     EXPECT_GE(std::set<std::string>(names.begin(), names.end()).size(), 20u);
     EXPECT_EQ(lines[0], "Test Report For Quillane");
-    EXPECT_EQ(lines[1], std::string(24, '-'));
-    EXPECT_EQ(lines[2], "");
     const Json flags = Get("blnReversedFlags");
     long correct = 0;
     for (std::size_t i = 0; i < 22; ++i) {
-        const std::string& line = lines[3 + i];
-        const bool turned = flags.AsArray()[i].AsBool();
-        std::string expectedLine =
-            Format00(long(i) + 1) + ".      " + names[i] + (turned ? " (Reversed)" : "");
-        expectedLine += std::string(std::size_t((turned ? 25 : 36) - long(names[i].size())), ' ');
-        if (description)
-            expectedLine += expected[i] ? "Correct" : "Wrong";
-        else
-            expectedLine +=
-                std::to_string(expected[i]) + " Out Of " + std::to_string(toTick) + " Correct";
-        EXPECT_EQ(line, expectedLine);
+        const std::string card = Format00(long(i) + 1) + ".      " + names[i] +
+                                 (flags.AsArray()[i].AsBool() ? " (Reversed)" : "");
+        const std::string verdict = description ? (expected[i] ? "Correct" : "Wrong")
+                                                : std::to_string(expected[i]) + " Out Of " +
+                                                      std::to_string(toTick) + " Correct";
+        EXPECT_EQ(lines[3 + i], card + std::string(45 - card.size(), ' ') + verdict)
+            << "the verdicts stand in one column";
         correct += description ? expected[i] : expected[i] + (expected[i] == 1);
     }
-    EXPECT_EQ(lines[25], std::string(64, '_'));
     const std::string summary = description
                                     ? std::to_string(correct) + " out of 22 questions correct"
                                     : std::to_string(correct) + "/" + std::to_string(22 * toTick) +
