@@ -7,10 +7,8 @@
 
 #include <gtest/gtest.h>
 
-#include <fstream>
 #include <functional>
 #include <set>
-#include <sstream>
 
 using namespace quillane;
 using namespace quillane::modDB;
@@ -19,11 +17,7 @@ namespace {
 
 class RecordsetTest : public ::testing::Test {
 protected:
-    void SetUp() override {
-        path = folder.File("learn.dll");
-        cardtest::MakeDatabase(path, cardtest::SmallDeck());
-        OpenConnection(cn, path);
-    }
+    void SetUp() override { OpenConnection(cn, cardtest::SmallDeckIn(folder)); }
 
     std::vector<long> Ids(Recordset& rs) {
         std::vector<long> ids;
@@ -41,8 +35,7 @@ protected:
         return words;
     }
 
-    cardtest::TempFolder folder;
-    std::string path;
+    quillane::testing::ScratchDir folder;
     std::shared_ptr<Connection> cn;
     std::shared_ptr<Recordset> rs;
 };
@@ -165,110 +158,69 @@ TEST_F(RecordsetTest, GetChunkReadsOnFromWhereItStopped) {
     EXPECT_TRUE(rs->GetChunk("PictureData", 0).empty());
 }
 
-// Failures end the program with one box naming the file: each throws
-// FatalError with the file and a message that says what failed.
-std::string FatalMessage(const std::function<void()>& action, const std::string& file) {
-    try {
-        action();
-    } catch (const FatalError& e) {
-        EXPECT_EQ(e.File(), file);
-        return e.what();
-    }
-    ADD_FAILURE() << "expected a FatalError";
-    return {};
-}
-
-TEST(CardStoreFailures, AMissingFileAWrongPasswordAndAnotherFileAreRefused) {
-    cardtest::TempFolder folder;
-    const std::string path = folder.File("learn.dll");
+// A failure ends the program with one box: FatalError, naming the file and
+// saying what happened to it.
+TEST(CardStoreFailures, EachBoxNamesTheFileAndSaysWhatHappened) {
+    quillane::testing::ScratchDir folder;
+    const std::string path = PathToUtf8(folder.Path() / "learn.dll");
     std::shared_ptr<Connection> cn;
-    std::string what = FatalMessage([&] { OpenConnection(cn, path); }, path);
-    EXPECT_NE(what.find("cannot be found"), std::string::npos) << what;
+    std::shared_ptr<Recordset> rs;
+    const auto fails = [](const std::function<void()>& action, const std::string& file,
+                          const std::vector<std::string>& says) {
+        try {
+            action();
+            ADD_FAILURE() << "no FatalError for " << says.at(0);
+        } catch (const FatalError& e) {
+            EXPECT_EQ(e.File(), file);
+            for (const std::string& part : says)
+                EXPECT_NE(std::string(e.what()).find(part), std::string::npos) << e.what();
+        }
+    };
+    fails([&] { OpenConnection(cn, path); }, path, {"cannot be found"});
     EXPECT_FALSE(std::filesystem::exists(path)) << "nor created";
     EXPECT_EQ(cn, nullptr);
 
-    cardtest::MakeDatabase(path, cardtest::SmallDeck());
+    cardtest::SmallDeckIn(folder);
     Connection guess;
     guess.ConnectionString = "DRIVER=Microsoft Access Driver (*.mdb);UID=;PWD=guess;DBQ=" + path;
-    what = FatalMessage([&] { guess.Open(); }, path);
-    EXPECT_NE(what.find("password"), std::string::npos) << what;
+    fails([&] { guess.Open(); }, path, {"password"});
     EXPECT_FALSE(guess.IsOpen());
 
-    std::ofstream(path, std::ios::binary | std::ios::trunc)
-        << "MZ this is a program, not a card database, and it is long enough "
-           "to fill the header that a database file would have.";
-    what = FatalMessage([&] { OpenConnection(cn, path); }, path);
-    EXPECT_NE(what.find("not a card database"), std::string::npos) << what;
-}
-
-TEST(CardStoreFailures, MissingTableAndSqlErrorsNameTheQuery) {
-    cardtest::TempFolder folder;
-    std::string path = folder.File("learn.dll");
-    cardtest::MakeDatabase(path, {"CREATE TABLE tblCards (ID INTEGER PRIMARY KEY, Name TEXT)"});
-    std::shared_ptr<Connection> cn;
-    std::shared_ptr<Recordset> rs;
-    OpenConnection(cn, path);
-
-    std::string what = FatalMessage(
-        [&] { OpenRecordset(rs, cn, "SELECT DISTINCT * FROM tblKeywords WHERE CardID=1"); }, path);
-    EXPECT_NE(what.find("no such table: tblKeywords"), std::string::npos) << what;
-    EXPECT_NE(what.find("SELECT DISTINCT * FROM tblKeywords WHERE CardID=1"), std::string::npos);
-
-    what = FatalMessage([&] { OpenRecordset(rs, cn, "SELECT * FROM tblCards WHERE"); }, path);
-    EXPECT_NE(what.find("failed the query"), std::string::npos) << what;
-}
-
-TEST(CardStoreFailures, TheDatabaseIsOnlyRead) {
-    cardtest::TempFolder folder;
-    std::string path = folder.File("learn.dll");
-    cardtest::MakeDatabase(path, cardtest::SmallDeck());
-    auto read = [&] {
-        std::ifstream in(path, std::ios::binary);
-        std::stringstream s;
-        s << in.rdbuf();
-        return s.str();
-    };
-    std::string before = read();
-    std::shared_ptr<Connection> cn;
-    std::shared_ptr<Recordset> rs;
-    OpenConnection(cn, path);
-    std::string what = FatalMessage([&] { OpenRecordset(rs, cn, "DELETE FROM tblCards"); }, path);
-    EXPECT_NE(what.find("readonly"), std::string::npos) << what;
-    OpenRecordset(rs, cn, "SELECT * FROM tblCards");
-    cn.reset();
-    EXPECT_EQ(read(), before);
-    EXPECT_FALSE(std::filesystem::exists(path + "-journal"));
-}
-
-TEST(CardStoreFailures, EachBoxSaysWhatHappenedToTheFile) {
-    cardtest::TempFolder folder;
-    std::string path = folder.File("learn.dll");
-    cardtest::MakeDatabase(path, cardtest::SmallDeck());
-    std::shared_ptr<Connection> cn;
-
-    // Another program holds the file under its exclusive lock.
-    sqlite3* other = nullptr;
+    sqlite3* other = nullptr; // another program holds the file under its exclusive lock
     sqlite3_open(path.c_str(), &other);
     sqlite3_exec(other, "PRAGMA locking_mode=EXCLUSIVE; BEGIN EXCLUSIVE;", nullptr, nullptr,
                  nullptr);
-    std::string what = FatalMessage([&] { OpenConnection(cn, path); }, path);
-    EXPECT_NE(what.find("is locked by another program"), std::string::npos) << what;
+    fails([&] { OpenConnection(cn, path); }, path, {"is locked by another program"});
     sqlite3_close(other);
 
     // A program stopped half-way through a change, and left its journal.
     std::filesystem::create_directory(folder.Path() / "left");
     const std::string left = cardtest::LeaveUnfinishedChange(path, folder.Path() / "left", false);
-    what = FatalMessage([&] { OpenConnection(cn, left); }, left);
-    EXPECT_NE(what.find("half-changed"), std::string::npos) << what;
-    EXPECT_NE(what.find(left + "-journal"), std::string::npos) << what;
+    fails([&] { OpenConnection(cn, left); }, left, {"half-changed", left + "-journal"});
     EXPECT_EQ(cn, nullptr);
+
+    // The database is only read, and a query names itself when it fails.
+    const std::string before = quillane::testing::ReadBytes(path);
+    OpenConnection(cn, path);
+    fails([&] { OpenRecordset(rs, cn, "DELETE FROM tblCards"); }, path, {"readonly"});
+    fails([&] { OpenRecordset(rs, cn, "SELECT * FROM tblCards WHERE"); }, path,
+          {"failed the query"});
+    fails([&] { OpenRecordset(rs, cn, "SELECT DISTINCT * FROM tblKeys WHERE CardID=1"); }, path,
+          {"no such table: tblKeys", "SELECT DISTINCT * FROM tblKeys WHERE CardID=1"});
+    cn.reset();
+    EXPECT_EQ(quillane::testing::ReadBytes(path), before);
+    EXPECT_FALSE(std::filesystem::exists(path + "-journal"));
+
+    quillane::testing::WriteBytes(path, "MZ this is a program, not a card database, and it is "
+                                        "long enough to fill the header that a database file "
+                                        "would have.");
+    fails([&] { OpenConnection(cn, path); }, path, {"not a card database"});
 }
 
 TEST(CardStoreFailures, AFileThatCantChangeIsReadWhateverWasLeftBesideIt) {
     for (const bool wal : {false, true}) {
-        cardtest::TempFolder folder;
-        std::string path = folder.File("learn.dll");
-        cardtest::MakeDatabase(path, cardtest::SmallDeck());
+        quillane::testing::ScratchDir folder;
+        const std::string path = cardtest::SmallDeckIn(folder);
         const auto installed = folder.Path() / "installed";
         std::filesystem::create_directory(installed);
         const std::string left = cardtest::LeaveUnfinishedChange(path, installed, wal);

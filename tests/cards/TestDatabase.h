@@ -11,12 +11,6 @@
 
 namespace cardtest {
 
-class TempFolder : public quillane::testing::ScratchDir {
-public:
-    // A file's path in the folder, as the program's UTF-8 text.
-    std::string File(const std::string& name) const { return quillane::PathToUtf8(Path() / name); }
-};
-
 // Runs SQL statements against a new database file at `path`.
 inline void MakeDatabase(const std::string& path, const std::vector<std::string>& statements) {
     sqlite3* db = nullptr;
@@ -50,6 +44,13 @@ inline std::vector<std::string> SmallDeck() {
         "INSERT INTO tblKeywords VALUES (1, 'beginnings'), (1, 'change'), (2, 'skill'), "
         "(2, 'skill'), (2, 'will'), (5, 'love'), (5, 'change')",
     };
+}
+
+// A database of the small deck in the folder; its path, as the program's UTF-8 text.
+inline std::string SmallDeckIn(const quillane::testing::ScratchDir& folder) {
+    const std::string path = quillane::PathToUtf8(folder.Path() / "learn.dll");
+    MakeDatabase(path, SmallDeck());
+    return path;
 }
 
 // A change that another program left unfinished, as a crash would leave it:
