@@ -66,20 +66,6 @@ TEST(Launcher, OnlyTheSubjectLabelsAreLinksAndUnderlineUnderTheMouse) {
     Launch(s);
 }
 
-TEST(Launcher, ExitInASubjectReturnsToTheWelcome) {
-    Script s = Launcher();
-    s.Do("click .cmdSelectOption(1)");
-    s.Is("click .mnuExit", "error: hidden", "the launcher's menus are out of sight");
-    s.Do("click frmLearnNumerologyMain.mnuExit");
-    s.Is("forms", R"(["frmMDI"])");
-    s.Is("get .picMain.Visible", "true");
-    s.Is("ended", "false");
-    s.Do({"click .cmdSelectOption(2)", "click frmLearnTarotMain.cmdNav(1)"});
-    s.Is("forms", R"(["frmMDI"])");
-    s.Is("get .picMain.Visible", "true");
-    Launch(s);
-}
-
 TEST(Launcher, ClosingTheLauncherClosesTheSubjectFirstAndEnds) {
     for (const std::string how : {"close frmMDI", "click frmMDI.cmdMdiExit"}) {
         Script s = Launcher();
