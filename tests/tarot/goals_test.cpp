@@ -52,13 +52,6 @@ struct Goals : Tarot {
             names.push_back(item.Find("Text")->AsString());
         return names;
     }
-    void NewGoal(const std::string& name, int days) {
-        Click("cmdNewGoal");
-        Do("set frmLearnTarotMain.txtGoalName.Text " + Json(name).Dump());
-        Do("set frmLearnTarotMain.mydtpEndingDate.cboDate.ListIndex " +
-           std::to_string(23 + days - 1));
-        Click("cmdSaveGoals");
-    }
 };
 
 const char* const kTwoViews =
@@ -142,42 +135,43 @@ TEST_F(Goals, ADamagedFileShowsWhatCameBeforeAndIsKeptBeforeItsFirstWrite) {
     EXPECT_EQ(Run("ended"), "false");
     Do("set frmLearnTarotMain.SSTab1.Tab 0");
     EXPECT_EQ(Listed(), (std::vector<std::string>{"Read daily", "Learn minors"}));
-    NewGoal("Next", 3);
+    Click("cmdNewGoal");
+    Do("set frmLearnTarotMain.txtGoalName.Text \"Next\"");
+    Click("cmdSaveGoals");
     EXPECT_EQ(ReadBytes(Program() / "goals.txt.bak"), damaged);
 }
 
-// The picker on a Tarot window opened on a given day.
+// The date pickers on a Tarot window opened on a leap day.
 struct Picker : Tarot {
     Picker() : Tarot(false, [](drive::DriverOptions& o) { o.today = Date(2028, 2, 29); }) {}
-    std::string Value() { return Text("mydtpEndingDate.value"); }
-    long Events() { return Number("mydtpEndingDate.DateChangedCount"); }
-    void Pick(const char* list, int index) {
-        Do(std::string("set frmLearnTarotMain.mydtpEndingDate.") + list + ".ListIndex " +
-           std::to_string(index));
-    }
 };
 
 TEST_F(Picker, ClampsOnlyDownwardsAndTellsOfEverySelection) {
+    const auto value = [this] { return Text("mydtpEndingDate.value"); };
+    const auto events = [this] { return Number("mydtpEndingDate.DateChangedCount"); };
+    const auto pick = [this](const std::string& list, int index) {
+        Do("set frmLearnTarotMain.mydtpEndingDate." + list + ".ListIndex " + std::to_string(index));
+    };
     EXPECT_EQ(Text("mydtpStartingDate.value"), "2028-02-28") << "made on 29 February";
     EXPECT_FALSE(Get("mydtpStartingDate.Enabled").AsBool()) << "false until written";
     Do("set frmLearnTarotMain.SSTab1.Tab 0");
     Click("cmdNewGoal");
-    EXPECT_EQ(Value(), "2028-03-07");
-    Pick("cboDate", 30);
-    long before = Events();
-    Pick("cboMonth", 1); // February of a leap year
-    EXPECT_EQ(Value(), "2028-02-29");
-    EXPECT_EQ(Events() - before, 2) << "the clamp's own selection, then the month's";
-    Pick("cboYear", 2029 - 1980);
-    EXPECT_EQ(Value(), "2029-02-28");
-    Pick("cboMonth", 2);
-    EXPECT_EQ(Value(), "2029-03-28") << "the 31 is not restored";
-    before = Events();
-    Pick("cboMonth", 2); // a re-pick of the shown month still tells
-    EXPECT_EQ(Events() - before, 1);
-    Pick("cboDate", 30);
-    Pick("cboMonth", 3);
-    EXPECT_EQ(Value(), "2029-04-30");
+    EXPECT_EQ(value(), "2028-03-07");
+    pick("cboDate", 30);
+    long before = events();
+    pick("cboMonth", 1); // February of a leap year
+    EXPECT_EQ(value(), "2028-02-29");
+    EXPECT_EQ(events() - before, 2) << "the clamp's own selection, then the month's";
+    pick("cboYear", 2029 - 1980);
+    EXPECT_EQ(value(), "2029-02-28");
+    pick("cboMonth", 2);
+    EXPECT_EQ(value(), "2029-03-28") << "the 31 is not restored";
+    before = events();
+    pick("cboMonth", 2); // a re-pick of the shown month still tells
+    EXPECT_EQ(events() - before, 1);
+    pick("cboDate", 30);
+    pick("cboMonth", 3);
+    EXPECT_EQ(value(), "2029-04-30");
 }
 
 TEST_F(Tarot, TheStartUpEntryIsWrittenRepairedAndRemoved) {
