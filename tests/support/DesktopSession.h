@@ -58,8 +58,6 @@ public:
     drive::DrivePlatform platform;
     drive::RecordingMessageBox& messageBox = platform.messageBox;
     drive::RecordingBrowser& browser = platform.browser;
-    drive::RecordingPrinter& printer = platform.printer;
-    drive::DriverClock& clock = platform.clock;
     std::unique_ptr<app::Program> program;
     Application* app = nullptr;
     std::unique_ptr<ui::FormHost> host;

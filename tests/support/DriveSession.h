@@ -1,7 +1,5 @@
 #pragma once
 // Runs quillane-drive as a process: a script in, one answer a command out.
-#include "RunProgram.h"
-
 #include <gtest/gtest.h>
 
 #include <algorithm>
@@ -10,12 +8,22 @@
 #include <filesystem>
 #include <fstream>
 #include <iterator>
+#include <optional>
 #include <random>
 #include <sstream>
 #include <string>
 #include <vector>
 
 namespace quillane::testing {
+
+// Runs the program (a UTF-8 path, or a name looked up on PATH) with the
+// arguments and `input` on its standard input, through Qt, so the same way on
+// every system: no shell, so no quoting. Its standard output, or nothing when
+// it could not start, did not end with status 0, or ran longer than `seconds`
+// (then it is killed).
+std::optional<std::string> RunProgram(const std::string& program,
+                                      const std::vector<std::string>& arguments,
+                                      const std::string& input = {}, int seconds = 60);
 
 // A folder that is removed with the object.
 class ScratchDir {
@@ -126,7 +134,6 @@ public:
         Add(command, Check::None, "");
         return steps_.size() - 1;
     }
-    std::size_t Size() const { return steps_.size(); }
 
     // Runs the script in one driver process and checks every answer; the
     // answers of the script's own commands, by the numbers Ask gave.
