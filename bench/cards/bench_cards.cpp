@@ -1,11 +1,8 @@
-// quillane-bench-cards: the cost of showing one card as the memorise walk does.
-//
-// Opens the full selection, then for every card: loads its picture from the
-// row, draws it at its box's size upright and turned through 180 degrees (as
-// the window's picture cache does when it meets a card for the first time),
-// opens its keyword query and reads seven keywords. The walk runs several
-// times, each with an empty cache; the median time per card is printed.
-// Target: at most 1 ms per card.
+// quillane-bench-cards: the cost of showing one card as the memorise walk does:
+// for every card of the full selection, its picture loaded from the row and
+// drawn at its box's size upright and turned (as the picture cache does at a
+// first meeting), its keyword query opened and seven keywords read. The median
+// time a card over several walks, each with an empty cache. Target: 1 ms.
 //
 //   quillane-bench-cards [path/to/learn.dll]
 #include "cards/modDB.h"

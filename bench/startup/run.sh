@@ -46,14 +46,12 @@ measure() {
 
 median() { sort -n | awk '{a[NR]=$1} END {print (NR % 2) ? a[(NR+1)/2] : (a[NR/2] + a[NR/2+1]) / 2}'; }
 
-: >"$scratch/q"; : >"$scratch/f"; : >"$scratch/t"
-measure "$here/quillane" '^Quillane v1\.20$' >/dev/null # warm-up
-measure "$here/quillane-bench-floor" '^Floor$' >/dev/null
-measure "$here/quillane-bench-floor" '^Text floor$' text >/dev/null
-for _ in $(seq "$runs"); do
-  measure "$here/quillane" '^Quillane v1\.20$' >>"$scratch/q"
-  measure "$here/quillane-bench-floor" '^Floor$' >>"$scratch/f"
-  measure "$here/quillane-bench-floor" '^Text floor$' text >>"$scratch/t"
+# The three in turn: a round to warm up, then the runs.
+for run in $(seq 0 "$runs"); do
+  out() { if [ "$run" -eq 0 ]; then echo /dev/null; else echo "$scratch/$1"; fi; }
+  measure "$here/quillane" '^Quillane v1\.20$' >>"$(out q)"
+  measure "$here/quillane-bench-floor" '^Floor$' >>"$(out f)"
+  measure "$here/quillane-bench-floor" '^Text floor$' text >>"$(out t)"
 done
 qt=$(cut -d' ' -f1 "$scratch/q" | median); qm=$(cut -d' ' -f2 "$scratch/q" | median)
 ft=$(cut -d' ' -f1 "$scratch/f" | median); fm=$(cut -d' ' -f2 "$scratch/f" | median)

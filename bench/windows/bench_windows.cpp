@@ -1,15 +1,9 @@
-// quillane-bench-windows: how long the subject windows take to open and to
-// take a step, in the process, offscreen on a 1600 by 900 screen. Each figure
-// is the median of several repetitions, taken in turn with its reference.
-// - Opening: from the click on the launcher's button until the window is
-//   painted (the first opening of each shown on its own). Reference: a plain
-//   window of the same size, shown in the launcher the same way.
-// - A step of the Tarot memorise walk and of the Runes walk: from the click on
-//   Next until its pictures (upright and turned) are painted, each card or
-//   stone met for the first time. Reference: painting them again.
-// - The Numerology report: from the last answer of a 75-question test until
-//   the report is painted. Reference: painting it again.
-// Targets: 15 ms an opening, 2 ms a step, 20 ms the report.
+// quillane-bench-windows: in the process, offscreen on a 1600 by 900 screen,
+// the median time to open each subject window (its first opening shown on its
+// own), to take a step of the Tarot and Runes walks, and to show the report of
+// a 75-question Numerology test, each beside a reference measured in turn with
+// it in the same run (docs/performance.md says which). Targets: 15 ms an
+// opening, 2 ms a step, 20 ms the report.
 //
 //   quillane-bench-windows [REPETITIONS]
 #include "DesktopSession.h"
