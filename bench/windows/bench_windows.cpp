@@ -118,25 +118,29 @@ struct Bench {
             return Widgets{w ? w->parentWidget() : nullptr};
         });
     }
-    // Opens a subject, starts its walk and takes the steps with Next.
-    void Walk(int subject, const char* start, const QStringList& pictures, int steps,
-              std::vector<double>& step, std::vector<double>& again) {
-        const char* form = kForms[subject];
+    // Opens a subject and clicks its way in; then, step by step, the click on
+    // `next` until the widgets `shown` gives are painted, and their repaint.
+    // A walk meets each picture for the first time.
+    void Steps(int subject, const QStringList& way, const char* next,
+               const std::function<Widgets()>& shown, int steps, std::vector<double>& step,
+               std::vector<double>& again, bool walk = true) {
         Open(subject);
-        Click(In(form, start));
+        for (const QString& name : way)
+            Click(In(kForms[subject], name));
         Settle();
-        ui::SharedPictures() = ui::PictureCache();
-        const auto shown = [&] {
-            Widgets widgets;
-            for (const QString& picture : pictures)
-                widgets.push_back(In<QWidget>(form, picture));
-            return widgets;
-        };
+        if (walk)
+            ui::SharedPictures() = ui::PictureCache();
         for (int i = 0; i < steps && !failed; ++i) {
-            step.push_back(Timed(In(form, "cmdNext"), shown));
+            step.push_back(Timed(In(kForms[subject], next), shown));
             again.push_back(Repainted(shown()));
         }
-        Close(form);
+        Close(kForms[subject]);
+    }
+    Widgets Pictures(int subject, const QStringList& names) {
+        Widgets widgets;
+        for (const QString& name : names)
+            widgets.push_back(In<QWidget>(kForms[subject], name));
+        return widgets;
     }
     // A plain window of the size given, shown as a subject's window is.
     double OpenPlain(QSize size) {
@@ -204,35 +208,28 @@ int main(int argc, char** argv) {
     // The Tarot memorise walk over the whole deck, and the Runes walk over
     // every stone but the last (which offers the test instead).
     std::vector<double> tarot, tarotAgain, runes, runesAgain;
+    const auto card = [&] { return b.Pictures(2, {"picCardMemorize", "picCardMemorizeReversed"}); };
+    const auto stone = [&] { return b.Pictures(3, {"picStone(0)", "picStone(1)"}); };
     for (int r = 0; r < repetitions && !b.failed; ++r) {
-        b.Walk(2, "cmdSetOption", {"picCardMemorize", "picCardMemorizeReversed"}, 77, tarot,
-               tarotAgain);
-        b.Walk(3, "cmdMemorize", {"picStone(0)", "picStone(1)"}, 22, runes, runesAgain);
+        b.Steps(2, {"cmdSetOption"}, "cmdNext", card, 77, tarot, tarotAgain);
+        b.Steps(3, {"cmdMemorize"}, "cmdNext", stone, 22, runes, runesAgain);
     }
-    // The Numerology report of a test over every subject.
+    // The Numerology report of a test over every subject: its last answer.
+    QStringList answers = {"optMain(1)", "cmdNext", "optOption(1)", "cmdNext2"};
+    for (int i = 0; i <= 14; ++i)
+        answers << QString("chkSubject(%1)").arg(i);
+    answers << "cmdNext3";
+    for (int k = 0; k < 74; ++k)
+        answers << "optChoice(2)"
+                << "cmdNextQuestion";
+    answers << "optChoice(2)";
+    const auto view = [&] {
+        auto* text = b.In<QTextEdit>(kForms[1], "RTBTestResult");
+        return Widgets{text ? text->viewport() : nullptr};
+    };
     std::vector<double> report, reportAgain;
-    const char* numerology = kForms[1];
-    for (int r = 0; r < repetitions && !b.failed; ++r) {
-        b.Open(1);
-        QStringList answers = {"optMain(1)", "cmdNext", "optOption(1)", "cmdNext2"};
-        for (int i = 0; i <= 14; ++i)
-            answers << QString("chkSubject(%1)").arg(i);
-        answers << "cmdNext3";
-        for (int k = 0; k < 74; ++k)
-            answers << "optChoice(2)"
-                    << "cmdNextQuestion";
-        answers << "optChoice(2)"; // the last answer, which the timed click gives
-        for (const QString& name : answers)
-            b.Click(b.In(numerology, name));
-        b.Settle();
-        const auto view = [&] {
-            auto* text = b.In<QTextEdit>(numerology, "RTBTestResult");
-            return Widgets{text ? text->viewport() : nullptr};
-        };
-        report.push_back(b.Timed(b.In(numerology, "cmdNextQuestion"), view));
-        reportAgain.push_back(b.Repainted(view()));
-        b.Close(numerology);
-    }
+    for (int r = 0; r < repetitions && !b.failed; ++r)
+        b.Steps(1, answers, "cmdNextQuestion", view, 1, report, reportAgain, false);
 
     if (b.failed) {
         std::fprintf(stderr, "a window did not show what was expected\n");
