@@ -40,26 +40,23 @@ TEST(Help, EveryWindowCarriesTheSameHelpMenu) {
     }
 }
 
-TEST(Help, MakeMoneyAndBrandLinksOpenTheirPages) {
-    Script s("frmMDI", {"start"});
-    s.Do({"click .mkmoney", "click .Label7", "click .Picture6", "click .cmdSelectOption(1)",
-          "click frmLearnNumerologyMain.lblCobrand", "click frmLearnNumerologyMain.lblFullBrand",
-          "click frmLearnNumerologyMain.mnuMakeMoney", "click .cmdSelectOption(3)"});
-    s.Is("click frmLearnRunesMain.mnuMakeMoney", "error: hidden", "the Runes hide Make Money");
-    s.Is("get frmLearnRunesMain.mnuCalculate.Visible", "false");
-    s.Is("opened", "[" + kFull + "," + kFull + "," + kHome + "," + kCoBrand + "," + kFull + "," +
-                       kFull + "]");
-    s.Run({});
-}
-
-TEST(Help, TheAboutBoxIsModalAndItsLinksOpenTheirPages) {
-    Script s("frmAbout", {"start", "click frmMDI.mnuAbout"});
+TEST(Help, BrandLinksOpenTheirPagesAndTheAboutBoxIsModal) {
+    Script s("frmAbout", {"start"});
+    s.Do({"click frmMDI.mkmoney", "click frmMDI.Label7", "click frmMDI.Picture6",
+          "click frmMDI.mnuAbout"});
     s.Is("get .Caption", R"("Quillane v1.20")");
     s.Is("get .Label2.Caption", R"("Quillane v1.20")");
     s.Is("click frmMDI.cmdSelectOption(0)", "error: disabled", "the window behind the box waits");
     s.Do({"click .lblCobrand", "click .lblHomePage", "click .cmdOK"});
     s.Is("forms", R"(["frmMDI"])");
-    s.Is("opened", "[" + kFull + "," + kHome + "]", "the About box's co-brand link: full brand");
+    s.Do({"click frmMDI.cmdSelectOption(1)", "click frmLearnNumerologyMain.lblCobrand",
+          "click frmLearnNumerologyMain.lblFullBrand", "click frmLearnNumerologyMain.mnuMakeMoney",
+          "click frmMDI.cmdSelectOption(3)"});
+    s.Is("click frmLearnRunesMain.mnuMakeMoney", "error: hidden", "the Runes hide Make Money");
+    s.Is("get frmLearnRunesMain.mnuCalculate.Visible", "false");
+    // The About box's co-brand link leads to the full brand.
+    s.Is("opened", "[" + kFull + "," + kFull + "," + kHome + "," + kFull + "," + kHome + "," +
+                       kCoBrand + "," + kFull + "," + kFull + "]");
     s.Do({"click frmMDI.cmdSelectOption(0)", "click frmLearnAstrologyMain.mnuAbout"});
     s.Is("forms", R"(["frmMDI","frmLearnAstrologyMain","frmAbout"])");
     s.Run({});
