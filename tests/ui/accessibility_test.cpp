@@ -10,7 +10,6 @@
 #include <QAccessible>
 #include <QCheckBox>
 #include <QComboBox>
-#include <QRadioButton>
 #include <QTabBar>
 
 #include <gtest/gtest.h>
@@ -20,18 +19,14 @@ using namespace quillane;
 namespace {
 
 // The role a widget of that kind must have; none for the kinds not checked.
+// An option drawn as a button that stays down is an option all the same.
 std::optional<QAccessible::Role> RoleOfKind(QWidget* widget) {
-    // An option drawn as a button that stays down is an option all the same.
-    if (auto* button = qobject_cast<QAbstractButton*>(widget);
-        qobject_cast<QRadioButton*>(widget) ||
-        (button && button->isCheckable() && !qobject_cast<QCheckBox*>(widget)))
-        return QAccessible::RadioButton;
     if (qobject_cast<QCheckBox*>(widget))
         return QAccessible::CheckBox;
     if (qobject_cast<QComboBox*>(widget))
         return QAccessible::ComboBox;
-    if (qobject_cast<QAbstractButton*>(widget))
-        return QAccessible::PushButton;
+    if (auto* button = qobject_cast<QAbstractButton*>(widget))
+        return button->isCheckable() ? QAccessible::RadioButton : QAccessible::PushButton;
     return std::nullopt;
 }
 

@@ -19,12 +19,8 @@ using quillane::testing::ScratchDir;
 namespace {
 
 // The words of a text, so that a page's own line breaks do not count.
-std::vector<std::string> Words(const std::string& text) {
-    std::istringstream in(text);
-    std::vector<std::string> words;
-    for (std::string w; in >> w;)
-        words.push_back(w);
-    return words;
+QString Words(const std::string& text) {
+    return QString::fromStdString(text).simplified();
 }
 
 // The text of a PDF file, page after page.
