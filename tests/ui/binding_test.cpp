@@ -67,7 +67,7 @@ struct Adapters : ::testing::Test, quillane::testing::DesktopSession {
     QWidget* window = nullptr;
 };
 
-TEST_F(Adapters, TheTitleAndTabsFollowTheModelAndTheUsersChoice) {
+TEST_F(Adapters, TheTitleTabsAndAUserControlsChildrenFollowTheModelAndTheUsersChoice) {
     app->Dispatch([&] { form->Me().SetCaption("Renamed"); });
     EXPECT_EQ(window->windowTitle(), "Renamed");
     auto* tabs = Widget<QTabWidget>("SSTab1");
@@ -91,9 +91,22 @@ TEST_F(Adapters, TheTitleAndTabsFollowTheModelAndTheUsersChoice) {
     app->Dispatch([&] { form->tabs.SetTabEnabled(0, false); });
     EXPECT_EQ(tabs->currentIndex(), 2) << "the shown tab follows the model, not the widget's rules";
     EXPECT_FALSE(tabs->isTabEnabled(0));
+
+    auto* day = Widget<QComboBox>("cboDay");
+    EXPECT_EQ(day->count(), 31);
+    day->setCurrentIndex(4);
+    emit day->activated(4); // the user picks 5
+    EXPECT_EQ(form->picker.picked, 5);
+    form->picker.picked = 0;
+    emit day->activated(4); // and picks the shown item again
+    EXPECT_EQ(form->picker.picked, 5) << "a re-pick runs Click";
+    app->Dispatch([&] { form->picker.SetEnabled(false); });
+    EXPECT_FALSE(Widget<QWidget>("dtpDay")->isEnabled());
+    EXPECT_TRUE(Widget<QLineEdit>("txtLocked")->isReadOnly()) << "a locked box refuses typing";
+    EXPECT_TRUE(host->BinderOf("frmSampler")->Unbound().isEmpty());
 }
 
-TEST_F(Adapters, AListViewShowsItsItemsAndChecksOnlyWhileChecksAreOn) {
+TEST_F(Adapters, AListViewAndAPopUpMenuShowTheModelAndRunTheUsersPicks) {
     auto* tree = Widget<QTreeWidget>("ListView1");
     app->Dispatch([&] {
         form->list.SetCheckboxes(true);
@@ -117,24 +130,7 @@ TEST_F(Adapters, AListViewShowsItsItemsAndChecksOnlyWhileChecksAreOn) {
     EXPECT_FALSE(tree->topLevelItem(1)->data(0, Qt::CheckStateRole).isValid());
     app->Dispatch([&] { form->list.ClearItems(); });
     EXPECT_EQ(tree->topLevelItemCount(), 0);
-}
 
-TEST_F(Adapters, AUserControlsChildrenAreBoundInsideIt) {
-    auto* day = Widget<QComboBox>("cboDay");
-    EXPECT_EQ(day->count(), 31);
-    day->setCurrentIndex(4);
-    emit day->activated(4); // the user picks 5
-    EXPECT_EQ(form->picker.picked, 5);
-    form->picker.picked = 0;
-    emit day->activated(4); // and picks the shown item again
-    EXPECT_EQ(form->picker.picked, 5) << "a re-pick runs Click";
-    app->Dispatch([&] { form->picker.SetEnabled(false); });
-    EXPECT_FALSE(Widget<QWidget>("dtpDay")->isEnabled());
-    EXPECT_TRUE(Widget<QLineEdit>("txtLocked")->isReadOnly()) << "a locked box refuses typing";
-    EXPECT_TRUE(host->BinderOf("frmSampler")->Unbound().isEmpty());
-}
-
-TEST_F(Adapters, APopUpMenuOffersItsDefaultAndRunsThePick) {
     QStringList shown;
     QTimer::singleShot(0, [&] {
         auto* menu = qobject_cast<QMenu*>(QApplication::activePopupWidget());

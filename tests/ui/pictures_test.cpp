@@ -16,11 +16,6 @@ namespace {
 
 using namespace quillane::modLearnRunes;
 
-QByteArray Read(const QString& path) {
-    QFile file(path);
-    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
-}
-
 TEST(Pictures, EachIsAValidDrawingOfPathsAndNoneIsAnothersCopy) {
     quillane::testing::EnsureQApplication();
     std::set<QByteArray> seen;
@@ -28,7 +23,8 @@ TEST(Pictures, EachIsAValidDrawingOfPathsAndNoneIsAnothersCopy) {
         int count = 0;
         for (QDirIterator it(folder, {"*.svg"}, QDir::Files); it.hasNext(); ++count) {
             const QString path = it.next();
-            const QByteArray svg = Read(path);
+            QFile file(path);
+            const QByteArray svg = file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
             QSvgRenderer renderer(svg);
             EXPECT_TRUE(renderer.isValid()) << path.toStdString();
             EXPECT_FALSE(svg.contains("<text") || svg.contains("font")) << path.toStdString();
