@@ -21,7 +21,7 @@ namespace {
 TEST_F(Tarot, TheSelectionRulesChooseTheirCards) {
     EXPECT_EQ(Number("SSTab1.Tab"), 1);
     Click("cmdSetOption");
-    EXPECT_EQ(Cards(), 78) << "a first start ticks every group";
+    EXPECT_EQ(modDB::rsCards->RecordCount(), 78) << "a first start ticks every group";
 
     Click("mnuTabSettings");
     EXPECT_FALSE(Get("SSTab1.TabEnabled(2)").AsBool()) << "entering the settings ends the walk";
@@ -29,14 +29,15 @@ TEST_F(Tarot, TheSelectionRulesChooseTheirCards) {
     EXPECT_FALSE(Get("chkGroup(0).Enabled").AsBool());
     EXPECT_EQ(Number("chkGroup(0).Value"), 1) << "the groups keep their ticks";
     Click("cmdSetOption");
-    EXPECT_EQ(Cards(), 22) << "groups drop out while the minor arcana are off";
+    EXPECT_EQ(modDB::rsCards->RecordCount(), 22)
+        << "groups drop out while the minor arcana are off";
 
     Click("mnuTabSettings");
     Do("set frmLearnTarotMain.chkMinor.Value 1");
     Untick({"chkMajor", "chkGroup(1)", "chkGroup(2)", "chkGroup(3)", "chkGroup(0)"});
     EXPECT_EQ(Number("chkGroup(0).Value"), 1) << "the last group can't be unticked";
     Click("cmdSetOption");
-    EXPECT_EQ(Cards(), 14);
+    EXPECT_EQ(modDB::rsCards->RecordCount(), 14);
 
     Click("mnuTabSettings");
     Do("set frmLearnTarotMain.chkMajor.Value 1");
