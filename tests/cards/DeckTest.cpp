@@ -3,7 +3,6 @@
 #include "cards/modDB.h"
 #include "cards/modImageDB.h"
 
-#include <QByteArray>
 #include <QImage>
 #include <QString>
 

@@ -11,22 +11,16 @@ using namespace quillane::modDB;
 
 namespace {
 
-// Accepts what starts with the given first byte and counts its calls.
-class StubDecoder : public IPictureDecoder {
-public:
-    explicit StubDecoder(unsigned char first) : first_(first) {}
+// Accepts what starts as a PNG file does, and counts its calls.
+struct PngDecoder : IPictureDecoder {
     bool CanDecode(const std::vector<unsigned char>& bytes) override {
         ++calls;
-        return !bytes.empty() && bytes[0] == first_;
+        return !bytes.empty() && bytes[0] == 0x89;
     }
     int calls = 0;
-
-private:
-    unsigned char first_;
 };
 
-class ImageDBTest : public ::testing::Test {
-protected:
+struct ImageDBTest : ::testing::Test {
     void SetUp() override {
         OpenConnection(cn, cardtest::SmallDeckIn(folder));
         OpenRecordset(rs, cn, "SELECT * FROM tblCards");
@@ -39,9 +33,9 @@ protected:
 };
 
 TEST_F(ImageDBTest, APictureOfAKnownKindLoadsWholeAndEveryFailureLeavesItEmpty) {
-    StubDecoder png(0x89);
+    PngDecoder png;
     const struct {
-        StubDecoder* decoder;
+        PngDecoder* decoder;
         long id;
         const char* field;
         bool loads;

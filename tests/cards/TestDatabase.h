@@ -39,7 +39,7 @@ inline std::string SmallDeckIn(const quillane::testing::ScratchDir& folder) {
 
 // A change that another program left unfinished, as a crash would leave it:
 // the database and its rollback journal (or, in WAL mode, its log), copied
-// into `into` while the change is under way. Returns the copy's path.
+// into a new folder `into` while the change is under way. The copy's path.
 inline std::string LeaveUnfinishedChange(const std::string& path, const std::filesystem::path& into,
                                          bool wal) {
     sqlite3* db = nullptr;
@@ -54,6 +54,7 @@ inline std::string LeaveUnfinishedChange(const std::string& path, const std::fil
                        "WHERE i < 2000) INSERT INTO tblKeywords SELECT 1, hex(randomblob(100)) "
                        "FROM n;",
                  nullptr, nullptr, nullptr);
+    std::filesystem::create_directory(into);
     const std::filesystem::path copy = into / "learn.dll";
     for (const char* part : {"", "-journal", "-wal"}) {
         std::error_code ec;
