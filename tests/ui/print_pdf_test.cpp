@@ -13,8 +13,6 @@
 #include <sstream>
 
 using namespace quillane;
-using quillane::testing::RunProgram;
-using quillane::testing::ScratchDir;
 
 namespace {
 
@@ -25,7 +23,8 @@ QString Words(const std::string& text) {
 
 // The text of a PDF file, page after page.
 std::string PdfText(const std::string& pdf) {
-    const auto read = RunProgram("pdftotext", {"-q", "-enc", "UTF-8", "-layout", pdf, "-"});
+    const auto read =
+        quillane::testing::RunProgram("pdftotext", {"-q", "-enc", "UTF-8", "-layout", pdf, "-"});
     if (!read)
         return "pdftotext failed on " + pdf;
     // The page's font joins some letters into one glyph; they count as letters.
@@ -40,22 +39,17 @@ std::string PdfText(const std::string& pdf) {
 }
 
 // A printer that writes each document to the next numbered PDF file.
-class PdfPrinter : public IPrinter {
-public:
-    explicit PdfPrinter(std::string folder) : folder_(std::move(folder)) {}
+struct PdfPrinter : IPrinter {
     bool Print(const std::vector<TextRun>& document) override {
         QPrinter printer(QPrinter::HighResolution);
         printer.setOutputFormat(QPrinter::PdfFormat);
-        const std::string file = folder_ + "/page" + std::to_string(files.size()) + ".pdf";
-        printer.setOutputFileName(QString::fromStdString(file));
-        const bool ok = ui::PrintDocument(printer, document);
-        files.push_back(file);
-        return ok;
+        files.push_back(
+            (folder.Path() / ("page" + std::to_string(files.size()) + ".pdf")).string());
+        printer.setOutputFileName(QString::fromStdString(files.back()));
+        return ui::PrintDocument(printer, document);
     }
+    quillane::testing::ScratchDir folder;
     std::vector<std::string> files;
-
-private:
-    std::string folder_;
 };
 
 } // namespace
@@ -65,8 +59,7 @@ private:
 TEST(PrintPdf, ANumerologyReportPrintsLineByLineBetweenItsAttributions) {
     quillane::testing::EnsureQApplication();
     modLearnNumerology::ClearTestState();
-    ScratchDir dir;
-    PdfPrinter printer(dir.Str());
+    PdfPrinter printer;
     quillane::testing::DesktopSession session(Date(2026, 4, 1), 5, &printer);
     auto click = [&](QWidget* root, const char* name) {
         auto* w = root->findChild<QAbstractButton*>(name);

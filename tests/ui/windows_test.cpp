@@ -23,6 +23,7 @@
 
 #include <map>
 #include <set>
+#include <sstream>
 
 using namespace quillane;
 
@@ -75,27 +76,18 @@ double XOf(QTextEdit* view, const QString& blockStart, QChar c) {
 // choice's text picks that choice alone, and the report's heading is bold.
 TEST_F(Windows, AChoicesTextPicksItAndTheReportsHeadingIsBold) {
     const struct {
-        const char* form;
-        std::vector<std::string> start;
-        const char *text, *option, *report;
+        const char *form, *start, *text, *option, *report;
         int questions;
     } windows[] = {
-        {kAstrology,
-         {"cmdSelectOption(0)", "optOption(1)", "cmdNext"},
-         "txtAnswer_Choice(",
-         "optAnswer_Choice(",
-         "RTB",
-         12},
-        {kNumerology,
-         {"cmdSelectOption(1)", "optMain(1)", "cmdNext", "optOption(0)", "cmdNext2"},
-         "txtOption(",
-         "optChoice(",
-         "RTBTestResult",
-         10},
+        {kAstrology, "cmdSelectOption(0) optOption(1) cmdNext", "txtAnswer_Choice(",
+         "optAnswer_Choice(", "RTB", 12},
+        {kNumerology, "cmdSelectOption(1) optMain(1) cmdNext optOption(0) cmdNext2", "txtOption(",
+         "optChoice(", "RTBTestResult", 10},
     };
     for (const auto& w : windows) {
         SCOPED_TRACE(w.form);
-        for (const std::string& name : w.start)
+        std::istringstream start(w.start);
+        for (std::string name; start >> name;)
             Press({name});
         for (const char* i : {"3", "0"}) {
             EXPECT_TRUE(Widget<QPlainTextEdit>(w.text + std::string(i) + ")")->isReadOnly());
@@ -157,7 +149,6 @@ TEST_F(Windows, NumerologyPanelsHeadingsChartsAndSubjectColumnsFollowTheForm) {
         EXPECT_DOUBLE_EQ(XOf(study, "1  2", digit), XOf(study, "A  B", letter));
     EXPECT_DOUBLE_EQ(XOf(study, "J  K", 'N'), XOf(study, "S  T", 'W'));
     Press({"cmdBackToMain", "cmdNext", "optOption(1)", "cmdNext2"});
-    EXPECT_EQ(Widget<QLabel>("fraOption(3).heading")->text(), "Learn By Interpretation");
     // The subjects stand in three columns of five.
     auto pos = [this](int i) {
         return Widget("chkSubject(" + std::to_string(i) + ")")->mapTo(host->MainWindow(), QPoint());
