@@ -16,11 +16,9 @@
 
 namespace quillane::testing {
 
-// Runs the program (a UTF-8 path, or a name looked up on PATH) with the
-// arguments and `input` on its standard input, through Qt, so the same way on
-// every system: no shell, so no quoting. Its standard output, or nothing when
-// it could not start, did not end with status 0, or ran longer than `seconds`
-// (then it is killed).
+// Runs a program (a UTF-8 path, or a name on PATH) without a shell, `input` on
+// its standard input. Its standard output, or nothing when it could not start,
+// did not end with status 0, or ran longer than `seconds` (then it is killed).
 std::optional<std::string> RunProgram(const std::string& program,
                                       const std::vector<std::string>& arguments,
                                       const std::string& input = {}, int seconds = 60);

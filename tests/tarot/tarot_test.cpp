@@ -1,6 +1,5 @@
-// The Tarot window through the driver: the selection rules against the cards
-// they select, the walk, whole tests at every level checked line by line
-// against the answers given, the report's summaries, and saving.
+// The Tarot window through the driver: the selection rules, the walk, and
+// whole tests at every level, their reports checked against the answers given.
 #include "TarotSession.h"
 #include "cards/modDB.h"
 #include "common/Numbers.h"
@@ -250,10 +249,9 @@ TEST_F(NoDeck, OnlyOpeningASelectionMeetsTheMissingDatabase) {
     Click("mnuTabSettings");
     EXPECT_EQ(Run("msgbox"), "null");
     Click("cmdSetOption");
-    const auto box = Json::Parse(Run("msgbox"));
-    ASSERT_TRUE(box && box->IsObject());
-    EXPECT_EQ(box->Find("icon")->AsString(), "critical");
-    EXPECT_NE(box->Find("text")->AsString().find("learn.dll"), std::string::npos);
+    const std::string box = Run("msgbox");
+    EXPECT_NE(box.find(R"("icon":"critical")"), std::string::npos) << box;
+    EXPECT_NE(box.find("learn.dll"), std::string::npos) << box;
     EXPECT_EQ(Run("ended"), "true");
 }
 
