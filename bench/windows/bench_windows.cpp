@@ -69,10 +69,9 @@ struct Bench {
     quillane::testing::DesktopSession session;
     bool failed = false;
 
-    QWidget* Window(const char* form) const { return session.host->WindowOf(form); }
     // A widget of the form's window, or of the launcher's when form is null.
     template <class W = QAbstractButton> W* In(const char* form, const QString& name) {
-        QWidget* root = form ? Window(form) : session.MainWindow();
+        QWidget* root = form ? session.host->WindowOf(form) : session.MainWindow();
         W* w = root ? root->findChild<W*>(name) : nullptr;
         if (!w)
             std::fprintf(stderr, "%s has no %s\n", form ? form : "frmMDI", qPrintable(name));
@@ -114,7 +113,7 @@ struct Bench {
     }
     double Open(int subject) {
         return Timed(In(nullptr, QString("cmdSelectOption(%1)").arg(subject)), [&] {
-            QWidget* w = Window(kForms[subject]);
+            QWidget* w = session.host->WindowOf(kForms[subject]);
             return Widgets{w ? w->parentWidget() : nullptr};
         });
     }
@@ -196,7 +195,8 @@ int main(int argc, char** argv) {
     for (int r = 0; r <= repetitions && !b.failed; ++r) {
         for (int s = 0; s < 4 && !b.failed; ++s) {
             const double ms = b.Open(s);
-            const QSize size = b.failed ? QSize() : b.Window(kForms[s])->parentWidget()->size();
+            const QSize size =
+                b.failed ? QSize() : b.session.host->WindowOf(kForms[s])->parentWidget()->size();
             b.Close(kForms[s]);
             if (r == 0)
                 first[s] = ms;
