@@ -1,10 +1,6 @@
-// quillane-bench-goalnote: the cost of opening the Runes window over a long
-// goal note.
-//
-// Writes a 5 MB Goal1.txt of short lines, opens the Runes window from the
-// launcher, brings the Goals panel to the front and lets the window lay it
-// out. Runs several times on the offscreen platform; the median time is
-// printed. Target: under 500 ms.
+// quillane-bench-goalnote: the median time, over several runs offscreen, to
+// open the Runes window from the launcher over a 5 MB Goal1.txt of short lines
+// and bring its Goals panel to the front. Target: under 500 ms.
 //
 //   quillane-bench-goalnote [MEGABYTES]
 #include "DesktopSession.h"

@@ -11,89 +11,69 @@ using namespace quillane::modDB;
 
 namespace {
 
-// Accepts what starts with the given first byte and counts its calls.
-class StubDecoder : public IPictureDecoder {
-public:
-    explicit StubDecoder(unsigned char first) : first_(first) {}
+// Accepts what starts as a PNG file does, and counts its calls.
+struct PngDecoder : IPictureDecoder {
     bool CanDecode(const std::vector<unsigned char>& bytes) override {
         ++calls;
-        return !bytes.empty() && bytes[0] == first_;
+        return !bytes.empty() && bytes[0] == 0x89;
     }
     int calls = 0;
-
-private:
-    unsigned char first_;
 };
 
-class ImageDBTest : public ::testing::Test {
-protected:
+struct ImageDBTest : ::testing::Test {
     void SetUp() override {
-        std::string path = folder.File("learn.dll");
-        cardtest::MakeDatabase(path, cardtest::SmallDeck());
-        OpenConnection(cn, path);
+        OpenConnection(cn, cardtest::SmallDeckIn(folder));
         OpenRecordset(rs, cn, "SELECT * FROM tblCards");
     }
     void TearDown() override { modImageDB::SetDecoder(nullptr); }
 
-    Picture Stale() {
-        Picture p;
-        p.descriptor = "card 99";
-        p.bytes = std::make_shared<std::vector<unsigned char>>(3, 7);
-        return p;
-    }
-
-    cardtest::TempFolder folder;
+    quillane::testing::ScratchDir folder;
     std::shared_ptr<Connection> cn;
     std::shared_ptr<Recordset> rs;
 };
 
-TEST_F(ImageDBTest, LoadsTheCurrentRowsPictureFromMemory) {
-    StubDecoder decoder(0x89);
-    modImageDB::SetDecoder(&decoder);
-    Picture target;
-    rs->MoveFirst();
-    ASSERT_TRUE(modImageDB::LoadPictureFromField(target, *rs, "PictureData"));
-    EXPECT_EQ(target.descriptor, "card 1");
-    ASSERT_TRUE(target.bytes);
-    EXPECT_EQ(*target.bytes,
-              (std::vector<unsigned char>{0x89, 'P', 'N', 'G', 0x0D, 0x0A, 0x1A, 0x0A, 0, 1}));
-    EXPECT_EQ(decoder.calls, 1);
-    // The same row loads again: the chunk is read whole each time.
-    ASSERT_TRUE(modImageDB::LoadPictureFromField(target, *rs, "PictureData"));
-    EXPECT_EQ(target.bytes->size(), 10u);
-}
-
-TEST_F(ImageDBTest, BadOrMissingDataLeavesAnEmptyPicture) {
-    StubDecoder decoder(0x89);
-    modImageDB::SetDecoder(&decoder);
-    struct Case {
-        const char* filter;
+TEST_F(ImageDBTest, APictureOfAKnownKindLoadsWholeAndEveryFailureLeavesItEmpty) {
+    PngDecoder png;
+    const struct {
+        PngDecoder* decoder;
+        long id;
         const char* field;
+        bool loads;
         const char* why;
+    } cases[] = {
+        {&png, 1, "PictureData", true, "the decoder takes the bytes"},
+        {&png, 2, "PictureData", false, "the decoder refuses the bytes"},
+        {&png, 5, "PictureData", false, "Null field"},
+        {&png, 3, "PictureData", false, "empty field"},
+        {&png, 1, "Portrait", false, "no such field"},
+        {&png, 40, "PictureData", false, "no current row"},
+        {nullptr, 1, "PictureData", true, "a PNG without a decoder"},
+        {nullptr, 2, "PictureData", true, "a JPEG without a decoder"},
+        {nullptr, 12, "PictureData", true, "a GIF without a decoder"},
+        {nullptr, 9, "PictureData", false, "bytes of no known kind"},
     };
-    for (const Case& c :
-         {Case{"ID=2", "PictureData", "decoder refuses the bytes"},
-          Case{"ID=5", "PictureData", "Null field"}, Case{"ID=3", "PictureData", "empty field"},
-          Case{"ID=1", "Portrait", "no such field"},
-          Case{"ID=40", "PictureData", "no current row"}}) {
-        rs->SetFilter(c.filter);
-        Picture target = Stale();
-        EXPECT_FALSE(modImageDB::LoadPictureFromField(target, *rs, c.field)) << c.why;
-        EXPECT_TRUE(target.empty()) << c.why;
-        EXPECT_FALSE(target.bytes) << c.why;
+    for (const auto& c : cases) {
+        modImageDB::SetDecoder(c.decoder);
+        rs->SetFilter("ID=" + std::to_string(c.id));
+        Picture target; // one that held another card's picture
+        target.descriptor = "card 99";
+        target.bytes = std::make_shared<std::vector<unsigned char>>(3, 7);
+        EXPECT_EQ(modImageDB::LoadPictureFromField(target, *rs, c.field), c.loads) << c.why;
+        EXPECT_EQ(target.empty(), !c.loads) << c.why;
+        EXPECT_EQ(target.descriptor, c.loads ? "card " + std::to_string(c.id) : "") << c.why;
+        EXPECT_EQ(bool(target.bytes), c.loads) << c.why;
     }
-}
-
-TEST_F(ImageDBTest, WithoutADecoderKnownPictureFilesAreAccepted) {
+    // The chunk is read whole at each load, and the decoder asked once.
+    modImageDB::SetDecoder(&png);
+    rs->SetFilter("ID=1");
+    png.calls = 0;
     Picture target;
-    for (long id : {1L, 2L, 12L}) { // PNG, JPEG and GIF signatures
-        rs->SetFilter("ID=" + std::to_string(id));
-        EXPECT_TRUE(modImageDB::LoadPictureFromField(target, *rs, "PictureData")) << id;
-        EXPECT_EQ(target.descriptor, "card " + std::to_string(id));
+    for (int load = 0; load < 2; ++load) {
+        ASSERT_TRUE(modImageDB::LoadPictureFromField(target, *rs, "PictureData"));
+        EXPECT_EQ(*target.bytes,
+                  (std::vector<unsigned char>{0x89, 'P', 'N', 'G', 0x0D, 0x0A, 0x1A, 0x0A, 0, 1}));
     }
-    rs->SetFilter("ID=9"); // bytes of no known kind
-    EXPECT_FALSE(modImageDB::LoadPictureFromField(target, *rs, "PictureData"));
-    EXPECT_TRUE(target.empty());
+    EXPECT_EQ(png.calls, 2);
 }
 
 } // namespace

@@ -5,56 +5,41 @@
 
 #include <sqlite3.h>
 
-#include <stdexcept>
 #include <string>
-#include <vector>
 
 namespace cardtest {
 
-class TempFolder : public quillane::testing::ScratchDir {
-public:
-    // A file's path in the folder, as the program's UTF-8 text.
-    std::string File(const std::string& name) const { return quillane::PathToUtf8(Path() / name); }
-};
-
-// Runs SQL statements against a new database file at `path`.
-inline void MakeDatabase(const std::string& path, const std::vector<std::string>& statements) {
+// A database in the folder of six cards over the five groups, with keywords
+// that include an exact duplicate row (card 2) and a keyword shared by two
+// cards ("change"); its path, as the program's UTF-8 text.
+inline std::string SmallDeckIn(const quillane::testing::ScratchDir& folder) {
+    const std::string path = quillane::PathToUtf8(folder.Path() / "learn.dll");
     sqlite3* db = nullptr;
-    if (sqlite3_open(path.c_str(), &db) != SQLITE_OK)
-        throw std::runtime_error("cannot create test database");
-    for (const std::string& sql : statements) {
-        char* error = nullptr;
-        if (sqlite3_exec(db, sql.c_str(), nullptr, nullptr, &error) != SQLITE_OK) {
-            std::string why = error ? error : "?";
-            sqlite3_free(error);
-            sqlite3_close(db);
-            throw std::runtime_error(why + " in " + sql);
-        }
-    }
+    sqlite3_open(path.c_str(), &db);
+    EXPECT_EQ(sqlite3_exec(
+                  db,
+                  "CREATE TABLE tblCards (ID INTEGER PRIMARY KEY, Name TEXT, \"Group\" INTEGER, "
+                  "normalmeaning TEXT, reversedmeaning TEXT, PictureData BLOB);"
+                  "CREATE TABLE tblKeywords (CardID INTEGER, Keyword TEXT);"
+                  "INSERT INTO tblCards VALUES "
+                  "(1, 'The Fool', 0, 'up 1', 'down 1', x'89504E470D0A1A0A0001'), "
+                  "(2, 'The Magician', 0, 'up 2', 'down 2', x'FFD8FF00'), "
+                  "(5, 'Ace of Cups', 1, 'up 5', 'down 5', NULL), "
+                  "(3, 'Ace of Wands', 2, 'up 3', 'down 3', x''), "
+                  "(9, 'Ace of Pentacles', 3, 'up 9', 'down 9', x'0102030405'), "
+                  "(12, 'Ace of Swords', 4, 'up 12', 'down 12', x'474946383961');"
+                  "INSERT INTO tblKeywords VALUES (1, 'beginnings'), (1, 'change'), (2, 'skill'), "
+                  "(2, 'skill'), (2, 'will'), (5, 'love'), (5, 'change');",
+                  nullptr, nullptr, nullptr),
+              SQLITE_OK)
+        << sqlite3_errmsg(db);
     sqlite3_close(db);
-}
-
-// Six cards over the five groups, with keywords that include an exact
-// duplicate row (card 2) and a keyword shared by two cards ("change").
-inline std::vector<std::string> SmallDeck() {
-    return {
-        "CREATE TABLE tblCards (ID INTEGER PRIMARY KEY, Name TEXT, \"Group\" INTEGER, "
-        "normalmeaning TEXT, reversedmeaning TEXT, PictureData BLOB)",
-        "CREATE TABLE tblKeywords (CardID INTEGER, Keyword TEXT)",
-        "INSERT INTO tblCards VALUES (1, 'The Fool', 0, 'up 1', 'down 1', x'89504E470D0A1A0A0001')",
-        "INSERT INTO tblCards VALUES (2, 'The Magician', 0, 'up 2', 'down 2', x'FFD8FF00')",
-        "INSERT INTO tblCards VALUES (5, 'Ace of Cups', 1, 'up 5', 'down 5', NULL)",
-        "INSERT INTO tblCards VALUES (3, 'Ace of Wands', 2, 'up 3', 'down 3', x'')",
-        "INSERT INTO tblCards VALUES (9, 'Ace of Pentacles', 3, 'up 9', 'down 9', x'0102030405')",
-        "INSERT INTO tblCards VALUES (12, 'Ace of Swords', 4, 'up 12', 'down 12', x'474946383961')",
-        "INSERT INTO tblKeywords VALUES (1, 'beginnings'), (1, 'change'), (2, 'skill'), "
-        "(2, 'skill'), (2, 'will'), (5, 'love'), (5, 'change')",
-    };
+    return path;
 }
 
 // A change that another program left unfinished, as a crash would leave it:
 // the database and its rollback journal (or, in WAL mode, its log), copied
-// into `into` while the change is under way. Returns the copy's path.
+// into a new folder `into` while the change is under way. The copy's path.
 inline std::string LeaveUnfinishedChange(const std::string& path, const std::filesystem::path& into,
                                          bool wal) {
     sqlite3* db = nullptr;
@@ -69,6 +54,7 @@ inline std::string LeaveUnfinishedChange(const std::string& path, const std::fil
                        "WHERE i < 2000) INSERT INTO tblKeywords SELECT 1, hex(randomblob(100)) "
                        "FROM n;",
                  nullptr, nullptr, nullptr);
+    std::filesystem::create_directory(into);
     const std::filesystem::path copy = into / "learn.dll";
     for (const char* part : {"", "-journal", "-wal"}) {
         std::error_code ec;

@@ -33,7 +33,13 @@ class DesktopSession {
 public:
     explicit DesktopSession(Date today = Date(2026, 4, 1), long long seed = 7,
                             IPrinter* printerOverride = nullptr)
-        : platform(Options(dir, today, seed)) {
+        : platform([&] {
+              drive::DriverOptions o; // the program's and the user's files in one folder
+              o.programDir = o.userDir = dir.Str();
+              o.today = today;
+              o.seed = seed;
+              return o;
+          }()) {
         EnsureQApplication();
         Services s = platform.Wired();
         if (printerOverride)
@@ -58,21 +64,9 @@ public:
     drive::DrivePlatform platform;
     drive::RecordingMessageBox& messageBox = platform.messageBox;
     drive::RecordingBrowser& browser = platform.browser;
-    drive::RecordingPrinter& printer = platform.printer;
-    drive::DriverClock& clock = platform.clock;
     std::unique_ptr<app::Program> program;
     Application* app = nullptr;
     std::unique_ptr<ui::FormHost> host;
-
-private:
-    static drive::DriverOptions Options(const ScratchDir& dir, Date today, long long seed) {
-        drive::DriverOptions o;
-        o.programDir = dir.Str();
-        o.userDir = dir.Str();
-        o.today = today;
-        o.seed = seed;
-        return o;
-    }
 };
 
 } // namespace quillane::testing

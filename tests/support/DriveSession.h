@@ -1,7 +1,5 @@
 #pragma once
 // Runs quillane-drive as a process: a script in, one answer a command out.
-#include "RunProgram.h"
-
 #include <gtest/gtest.h>
 
 #include <algorithm>
@@ -10,12 +8,20 @@
 #include <filesystem>
 #include <fstream>
 #include <iterator>
+#include <optional>
 #include <random>
 #include <sstream>
 #include <string>
 #include <vector>
 
 namespace quillane::testing {
+
+// Runs a program (a UTF-8 path, or a name on PATH) without a shell, `input` on
+// its standard input. Its standard output, or nothing when it could not start,
+// did not end with status 0, or ran longer than `seconds` (then it is killed).
+std::optional<std::string> RunProgram(const std::string& program,
+                                      const std::vector<std::string>& arguments,
+                                      const std::string& input = {}, int seconds = 60);
 
 // A folder that is removed with the object.
 class ScratchDir {
@@ -56,26 +62,18 @@ inline std::vector<std::string> Drive(const std::vector<std::string>& options,
     if (!drive)
         drive = QUILLANE_DRIVE_PATH;
 #endif
-    std::size_t expected = 0;
-    for (const auto& c : commands)
-        if (c.find_first_not_of(" \t") != std::string::npos && c[c.find_first_not_of(" \t")] != '#')
-            ++expected;
-    // Every command has an answer, so a test can index them; missing ones say so.
-    auto padded = [expected](std::vector<std::string> lines) {
-        while (lines.size() < expected)
-            lines.push_back("error: no answer");
-        return lines;
-    };
-    if (!drive)
-        return padded({});
     std::string script;
-    for (const auto& c : commands)
+    std::size_t expected = 0; // blank lines and comments have no answer
+    for (const auto& c : commands) {
         script += c + '\n';
+        const auto first = c.find_first_not_of(" \t");
+        expected += first != std::string::npos && c[first] != '#';
+    }
     // A session that names no program folder gets one of its own, with the
     // card database beside it, so that no test writes into the build.
     ScratchDir io;
     std::vector<std::string> arguments = options;
-    if (std::find(options.begin(), options.end(), "--program-dir") == options.end()) {
+    if (drive && std::find(options.begin(), options.end(), "--program-dir") == options.end()) {
         const auto program = io.Path() / "program";
         std::filesystem::create_directory(program);
         std::error_code ec;
@@ -89,14 +87,13 @@ inline std::vector<std::string> Drive(const std::vector<std::string>& options,
         arguments.insert(arguments.end(), {"--program-dir", program.string()});
     }
     // A driver that hangs is stopped, and its test fails on the missing answers.
-    const auto output = RunProgram(drive, arguments, script, 20);
-    if (!output)
-        return padded({});
-    std::istringstream answers(*output);
+    std::istringstream answers(drive ? RunProgram(drive, arguments, script, 20).value_or("") : "");
     std::vector<std::string> lines;
     for (std::string line; std::getline(answers, line);)
         lines.push_back(line);
-    return padded(lines);
+    // Every command has an answer, so a test can index them; missing ones say so.
+    lines.resize(std::max(lines.size(), expected), "error: no answer");
+    return lines;
 }
 
 // A driver script with what each answer must be written beside its command.
@@ -126,7 +123,6 @@ public:
         Add(command, Check::None, "");
         return steps_.size() - 1;
     }
-    std::size_t Size() const { return steps_.size(); }
 
     // Runs the script in one driver process and checks every answer; the
     // answers of the script's own commands, by the numbers Ask gave.

@@ -1,4 +1,4 @@
-#include "RunProgram.h"
+#include "DriveSession.h"
 
 #include <QProcess>
 #include <QStringList>

@@ -14,16 +14,14 @@ class TableDigest {
 public:
     // Adds one text; texts are kept apart, so "ab","c" differs from "a","bc".
     TableDigest& Add(std::string_view text) {
-        for (unsigned char c : text) {
+        for (unsigned char c : text)
             Mix(c);
-        }
         Mix(0x1f);
         return *this;
     }
     template <typename Texts> TableDigest& AddAll(const Texts& texts) {
-        for (const auto& text : texts) {
+        for (const auto& text : texts)
             Add(text);
-        }
         Mix(0x1e);
         return *this;
     }

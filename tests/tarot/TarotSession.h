@@ -22,28 +22,24 @@ protected:
     // options of a start; the window is opened unless told otherwise.
     explicit Tarot(bool withDeck = true,
                    const std::function<void(drive::DriverOptions&)>& adjust = {}, bool open = true)
-        : platform(Options(dir, withDeck, adjust)) {
-        if (!open)
-            return;
-        Do("start");
-        Do("click frmMDI.cmdSelectOption(2)");
-    }
-
-    static drive::DriverOptions Options(const ScratchDir& dir, bool withDeck,
-                                        const std::function<void(drive::DriverOptions&)>& adjust) {
-        drive::DriverOptions o;
-        o.programDir = (dir.Path() / "program").string();
-        o.userDir = (dir.Path() / "user").string();
-        std::filesystem::create_directories(o.programDir);
-        std::filesystem::create_directories(o.userDir);
-        if (withDeck)
-            std::filesystem::copy_file(QUILLANE_LEARN_DLL, o.programDir + "/learn.dll",
-                                       std::filesystem::copy_options::overwrite_existing);
-        o.seed = 11;
-        o.today = Date(2026, 11, 23);
-        if (adjust)
-            adjust(o);
-        return o;
+        : platform([&] {
+              drive::DriverOptions o;
+              o.programDir = (dir.Path() / "program").string();
+              o.userDir = (dir.Path() / "user").string();
+              std::filesystem::create_directories(o.programDir);
+              std::filesystem::create_directories(o.userDir);
+              if (withDeck)
+                  std::filesystem::copy_file(QUILLANE_LEARN_DLL, o.programDir + "/learn.dll");
+              o.seed = 11;
+              o.today = Date(2026, 11, 23);
+              if (adjust)
+                  adjust(o);
+              return o;
+          }()) {
+        if (open) {
+            Do("start");
+            Do("click frmMDI.cmdSelectOption(2)");
+        }
     }
     // Runs one command on the window; "ok" is expected of actions.
     std::string Run(const std::string& command) {
@@ -59,7 +55,6 @@ protected:
     }
     std::string Text(const std::string& what) { return Get(what).AsString(); }
     long Number(const std::string& what) { return long(Get(what).AsInt()); }
-    long Cards() { return long(modDB::rsCards->RecordCount()); }
     // Unticks the named settings until only what is wanted is left.
     void Untick(std::initializer_list<const char*> boxes) {
         for (const char* box : boxes)

@@ -1,43 +1,32 @@
-// Every window as a screen reader sees it: each control a user can act on has
-// the role of its kind and a name to be known by, on every panel and tab,
-// shown now or later (the goals, the date picker, the About box included).
+// Every window of the program, as the binding builds it and as a screen
+// reader sees it: each control of its form has a widget of its kind, and each
+// control a user can act on has the role of its kind and a name to be known
+// by, on every panel and tab, shown now or later (the goals, the date picker,
+// the About box included).
 #include "DesktopSession.h"
+#include "ui/binding/Binder.h"
 
 #include <QAbstractButton>
 #include <QAccessible>
 #include <QCheckBox>
 #include <QComboBox>
-#include <QRadioButton>
 #include <QTabBar>
 
-#include <algorithm>
 #include <gtest/gtest.h>
 
 using namespace quillane;
 
 namespace {
 
-const char* const kWindows[] = {"frmMDI",
-                                "frmAbout",
-                                "frmLearnAstrologyMain",
-                                "frmLearnNumerologyMain",
-                                "frmLearnTarotMain",
-                                "frmLearnRunesMain",
-                                "frmLearnRunesMeaningTest"};
-
 // The role a widget of that kind must have; none for the kinds not checked.
+// An option drawn as a button that stays down is an option all the same.
 std::optional<QAccessible::Role> RoleOfKind(QWidget* widget) {
-    // An option drawn as a button that stays down is an option all the same.
-    if (auto* button = qobject_cast<QAbstractButton*>(widget);
-        qobject_cast<QRadioButton*>(widget) ||
-        (button && button->isCheckable() && !qobject_cast<QCheckBox*>(widget)))
-        return QAccessible::RadioButton;
     if (qobject_cast<QCheckBox*>(widget))
         return QAccessible::CheckBox;
     if (qobject_cast<QComboBox*>(widget))
         return QAccessible::ComboBox;
-    if (qobject_cast<QAbstractButton*>(widget))
-        return QAccessible::PushButton;
+    if (auto* button = qobject_cast<QAbstractButton*>(widget))
+        return button->isCheckable() ? QAccessible::RadioButton : QAccessible::PushButton;
     return std::nullopt;
 }
 
@@ -74,27 +63,21 @@ QStringList Faults(QWidget* window) {
     return found;
 }
 
-struct Accessibility : ::testing::TestWithParam<const char*>, quillane::testing::DesktopSession {};
-
-TEST_P(Accessibility, EveryControlHasTheRoleOfItsKindAndAName) {
-    const std::string form = GetParam();
-    if (!host->WindowOf(form))
-        app->Dispatch([&] { app->Load(form); });
-    QWidget* window = host->WindowOf(form);
-    ASSERT_NE(window, nullptr);
-    EXPECT_GT(window->findChildren<QAbstractButton*>().size(), 0);
-    EXPECT_EQ(Faults(window).join(", ").toStdString(), "");
-}
-
-INSTANTIATE_TEST_SUITE_P(EveryWindow, Accessibility, ::testing::ValuesIn(kWindows));
-
-TEST(AccessibilityWindows, TheListHoldsEveryWindowOfTheProgram) {
+TEST(EveryWindow, EachControlHasAWidgetOfItsKindWithItsRoleAndAName) {
     quillane::testing::DesktopSession session;
-    std::vector<std::string> forms = session.app->FormNames(),
-                             listed(std::begin(kWindows), std::end(kWindows));
-    std::sort(forms.begin(), forms.end());
-    std::sort(listed.begin(), listed.end());
-    EXPECT_EQ(listed, forms);
+    Application& app = *session.app;
+    for (const std::string& form : app.FormNames()) {
+        if (!session.host->WindowOf(form))
+            app.Dispatch([&] { app.Load(form); });
+        ui::Binder* binder = session.host->BinderOf(form);
+        ASSERT_NE(binder, nullptr) << form << " has no window";
+        EXPECT_EQ(binder->Unbound().join(", ").toStdString(), "") << form << " shows nothing for";
+        QWidget* window = session.host->WindowOf(form);
+        EXPECT_FALSE(window->findChildren<QAbstractButton*>().isEmpty()) << form;
+        EXPECT_EQ(Faults(window).join(", ").toStdString(), "") << form;
+        if (form != app.MainForm())
+            app.Dispatch([&] { app.Unload(form); });
+    }
 }
 
 } // namespace

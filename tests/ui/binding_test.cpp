@@ -1,7 +1,6 @@
-// The generic binding on the offscreen platform: every control of every form
-// has a widget of its kind, and the adapters of tabs, list views, user
-// controls and pop-up menus carry the model to the widget and the user's
-// actions back.
+// The generic binding on the offscreen platform: the adapters of tabs, list
+// views, user controls and pop-up menus carry the model to the widget and the
+// user's actions back.
 #include "DesktopSession.h"
 #include "SamplerForm.h"
 #include "ui/binding/Binder.h"
@@ -23,53 +22,32 @@ using namespace quillane;
 
 namespace {
 
-struct EveryForm : ::testing::Test, quillane::testing::DesktopSession {};
-
-TEST_F(EveryForm, EachControlHasAWidgetOfItsKind) {
-    for (const std::string& name : app->FormNames()) {
-        app->Dispatch([&] { app->Load(name); });
-        ui::Binder* binder = host->BinderOf(name);
-        ASSERT_NE(binder, nullptr) << name << " has no window";
-        EXPECT_TRUE(binder->Unbound().isEmpty())
-            << name << " shows nothing for " << binder->Unbound().join(", ").toStdString();
-        if (name != app->MainForm())
-            app->Dispatch([&] { app->Unload(name); });
-    }
-}
-
+// The sampler's window, its widgets named as a designer names them.
 QWidget* BuildSampler(Form&) {
     auto* window = new QWidget;
     window->setObjectName("frmSampler");
     auto* column = new QVBoxLayout(window);
-    auto* tabs = new QTabWidget;
-    tabs->setObjectName("SSTab1");
-    for (int i = 0; i < 3; ++i) {
-        auto* page = new QWidget;
-        if (i == 1)
-            (new QVBoxLayout(page))->addWidget(new QPushButton("", page));
-        tabs->addTab(page, QString());
-    }
-    tabs->widget(1)->findChild<QPushButton*>()->setObjectName("cmdSecond");
-    column->addWidget(tabs);
-    auto* list = new QTreeWidget;
-    list->setObjectName("ListView1");
-    column->addWidget(list);
-    auto* picker = new QWidget;
-    picker->setObjectName("dtpDay");
-    auto* combo = new QComboBox(picker);
-    combo->setObjectName("cboDay");
-    column->addWidget(picker);
-    auto* locked = new QLineEdit;
-    locked->setObjectName("txtLocked");
-    column->addWidget(locked);
-    auto* spot = new QStackedWidget;
+    const auto add = [column]<class W>(W* widget, const QString& name) {
+        widget->setObjectName(name);
+        column->addWidget(widget);
+        return widget;
+    };
+    auto* tabs = add(new QTabWidget, "SSTab1");
+    for (int i = 0; i < 3; ++i)
+        tabs->addTab(new QWidget, QString());
+    auto* second = new QPushButton;
+    second->setObjectName("cmdSecond");
+    (new QVBoxLayout(tabs->widget(1)))->addWidget(second);
+    add(new QTreeWidget, "ListView1");
+    (new QComboBox(add(new QWidget, "dtpDay")))->setObjectName("cboDay");
+    add(new QLineEdit, "txtLocked");
+    auto* spot = add(new QStackedWidget, "");
     for (int i = 0; i < 2; ++i) {
         auto* view = new QPushButton;
         view->setObjectName(QString("optGoals(%1)").arg(i));
         view->setCheckable(true);
         spot->addWidget(view);
     }
-    column->addWidget(spot);
     return window;
 }
 
@@ -89,7 +67,7 @@ struct Adapters : ::testing::Test, quillane::testing::DesktopSession {
     QWidget* window = nullptr;
 };
 
-TEST_F(Adapters, TheTitleAndTabsFollowTheModelAndTheUsersChoice) {
+TEST_F(Adapters, TheTitleTabsAndAUserControlsChildrenFollowTheModelAndTheUsersChoice) {
     app->Dispatch([&] { form->Me().SetCaption("Renamed"); });
     EXPECT_EQ(window->windowTitle(), "Renamed");
     auto* tabs = Widget<QTabWidget>("SSTab1");
@@ -113,9 +91,22 @@ TEST_F(Adapters, TheTitleAndTabsFollowTheModelAndTheUsersChoice) {
     app->Dispatch([&] { form->tabs.SetTabEnabled(0, false); });
     EXPECT_EQ(tabs->currentIndex(), 2) << "the shown tab follows the model, not the widget's rules";
     EXPECT_FALSE(tabs->isTabEnabled(0));
+
+    auto* day = Widget<QComboBox>("cboDay");
+    EXPECT_EQ(day->count(), 31);
+    day->setCurrentIndex(4);
+    emit day->activated(4); // the user picks 5
+    EXPECT_EQ(form->picker.picked, 5);
+    form->picker.picked = 0;
+    emit day->activated(4); // and picks the shown item again
+    EXPECT_EQ(form->picker.picked, 5) << "a re-pick runs Click";
+    app->Dispatch([&] { form->picker.SetEnabled(false); });
+    EXPECT_FALSE(Widget<QWidget>("dtpDay")->isEnabled());
+    EXPECT_TRUE(Widget<QLineEdit>("txtLocked")->isReadOnly()) << "a locked box refuses typing";
+    EXPECT_TRUE(host->BinderOf("frmSampler")->Unbound().isEmpty());
 }
 
-TEST_F(Adapters, AListViewShowsItsItemsAndChecksOnlyWhileChecksAreOn) {
+TEST_F(Adapters, AListViewAndAPopUpMenuShowTheModelAndRunTheUsersPicks) {
     auto* tree = Widget<QTreeWidget>("ListView1");
     app->Dispatch([&] {
         form->list.SetCheckboxes(true);
@@ -139,25 +130,7 @@ TEST_F(Adapters, AListViewShowsItsItemsAndChecksOnlyWhileChecksAreOn) {
     EXPECT_FALSE(tree->topLevelItem(1)->data(0, Qt::CheckStateRole).isValid());
     app->Dispatch([&] { form->list.ClearItems(); });
     EXPECT_EQ(tree->topLevelItemCount(), 0);
-}
 
-TEST_F(Adapters, AUserControlsChildrenAreBoundInsideIt) {
-    auto* day = Widget<QComboBox>("cboDay");
-    EXPECT_EQ(form->day.Path(), "dtpDay.cboDay");
-    EXPECT_EQ(day->count(), 31);
-    day->setCurrentIndex(4);
-    emit day->activated(4); // the user picks 5
-    EXPECT_EQ(form->picker.picked, 5);
-    form->picker.picked = 0;
-    emit day->activated(4); // and picks the shown item again
-    EXPECT_EQ(form->picker.picked, 5) << "a re-pick runs Click";
-    app->Dispatch([&] { form->picker.SetEnabled(false); });
-    EXPECT_FALSE(Widget<QWidget>("dtpDay")->isEnabled());
-    EXPECT_TRUE(Widget<QLineEdit>("txtLocked")->isReadOnly()) << "a locked box refuses typing";
-    EXPECT_TRUE(host->BinderOf("frmSampler")->Unbound().isEmpty());
-}
-
-TEST_F(Adapters, APopUpMenuOffersItsDefaultAndRunsThePick) {
     QStringList shown;
     QTimer::singleShot(0, [&] {
         auto* menu = qobject_cast<QMenu*>(QApplication::activePopupWidget());

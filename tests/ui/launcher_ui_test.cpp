@@ -1,17 +1,10 @@
-// The real launcher on the offscreen platform: clicks on its widgets reach the
-// forms, and the widgets follow the forms.
-#include "DriveSession.h"
-#include "drive/RecordingServices.h"
-#include "platform/DesktopServices.h"
-#include "platform/IniSettingsStore.h"
-#include "shell/StartUp.h"
-#include "ui/binding/FormHost.h"
-
+// The real launcher on the offscreen platform: clicks and keys on its widgets
+// reach the forms, the widgets follow the forms, and every subject fits the
+// smallest screen.
 #include "DesktopSession.h"
+
 #include <QAbstractButton>
-#include <QApplication>
 #include <QLabel>
-#include <QMainWindow>
 #include <QMdiArea>
 #include <QMdiSubWindow>
 #include <QMenuBar>
@@ -24,165 +17,140 @@ using namespace quillane;
 namespace {
 
 struct LauncherUi : ::testing::Test, quillane::testing::DesktopSession {
-
     QMainWindow* Main() const { return host->MainWindow(); }
-    template <class W> W* Widget(const char* name) const { return Main()->findChild<W*>(name); }
+    template <class W = QWidget> W* Widget(const QString& name) const {
+        return Main()->findChild<W*>(name);
+    }
+    QAbstractButton* Subject(int i) const {
+        return Widget<QAbstractButton>(QString("cmdSelectOption(%1)").arg(i));
+    }
+    bool Welcome() const { return Widget("picMain")->isVisible(); }
+    // The subjects the launcher's bar marks as open.
+    std::string Marked() const {
+        std::string marked;
+        for (int i = 0; i < 4; ++i)
+            marked += Subject(i)->property("current").toBool() ? std::to_string(i) : "";
+        return marked;
+    }
     QStringList MenuTitles() const {
         QStringList titles;
         for (QAction* a : Main()->menuBar()->actions())
             titles << a->text();
         return titles;
     }
+    void CloseFrame(const std::string& form) {
+        host->WindowOf(form)->parentWidget()->close();
+        QCoreApplication::processEvents();
+    }
 };
 
-} // namespace
-
-TEST_F(LauncherUi, ShowsTheLauncherWithItsTextsAndMenus) {
-    ASSERT_NE(Main(), nullptr);
+TEST_F(LauncherUi, SubjectsOpenInsideTheLauncherWithTheirMenusAndClosingOneBringsTheWelcomeBack) {
     EXPECT_TRUE(Main()->isVisible());
     EXPECT_EQ(Main()->windowTitle(), "Quillane v1.20");
-    EXPECT_EQ(Widget<QAbstractButton>("cmdSelectOption(2)")->text(), "Learn Tarot");
-    EXPECT_EQ(Widget<QLabel>("lblCaption(0)")->text(), "Welcome to Quillane");
-    EXPECT_TRUE(Widget<QWidget>("picMain")->isVisible());
     EXPECT_EQ(MenuTitles(), (QStringList{"&File", "&Help"}));
-}
-
-TEST_F(LauncherUi, AButtonOpensItsSubjectInsideTheLauncher) {
-    QTest::mouseClick(Widget<QAbstractButton>("cmdSelectOption(1)"), Qt::LeftButton);
-    auto* mdi = Widget<QMdiArea>("mdiArea");
-    ASSERT_EQ(mdi->subWindowList().size(), 1);
-    EXPECT_EQ(mdi->subWindowList().first()->windowTitle(), "Quillane Learn Numerology");
-    EXPECT_FALSE(Widget<QWidget>("picMain")->isVisible());
-    EXPECT_TRUE(mdi->isVisible());
-    EXPECT_NE(app->Find("frmLearnNumerologyMain"), nullptr);
-
-    // The subject's menus take the menu bar's place.
-    QMenu* file = nullptr;
-    for (QAction* a : Main()->menuBar()->actions())
-        if (a->text() == "&File")
-            file = a->menu();
-    ASSERT_NE(file, nullptr);
-    EXPECT_EQ(file->objectName(), "mnuFile");
-    EXPECT_EQ(file->actions().first()->text(), "E&xit");
-    file->actions().first()->trigger();
-    QCoreApplication::processEvents();
-    EXPECT_EQ(app->Find("frmLearnNumerologyMain"), nullptr);
-    EXPECT_TRUE(Widget<QWidget>("picMain")->isVisible())
-        << "closing a subject brings the welcome back";
-    EXPECT_EQ(Main()->menuBar()->actions().size(), 2);
-}
-
-TEST_F(LauncherUi, SubjectLabelsOpenAndUnderlineUnderTheMouse) {
-    auto* label = Widget<QLabel>("lblCaption(6)");
-    QTest::mouseMove(label);
-    QMouseEvent move(QEvent::MouseMove, QPointF(5, 5), label->mapToGlobal(QPointF(5, 5)),
-                     Qt::NoButton, Qt::NoButton, Qt::NoModifier);
-    QApplication::sendEvent(label, &move);
-    EXPECT_TRUE(app->Find("frmMDI")->Find("lblCaption(6)")->FontUnderline());
-    EXPECT_TRUE(label->property("underline").toBool());
-    EXPECT_TRUE(label->font().underline());
-    QMouseEvent leave(QEvent::MouseMove, QPointF(2, 2), QPointF(2, 2), Qt::NoButton, Qt::NoButton,
-                      Qt::NoModifier);
-    QApplication::sendEvent(Widget<QWidget>("picMain"), &leave);
-    EXPECT_FALSE(label->font().underline());
-
-    QTest::mouseClick(label, Qt::LeftButton);
-    EXPECT_NE(app->Find("frmLearnRunesMain"), nullptr);
-    // Closing the sub-window with its title bar runs the form's unload.
-    Widget<QMdiArea>("mdiArea")->subWindowList().first()->close();
-    QCoreApplication::processEvents();
-    EXPECT_EQ(app->Find("frmLearnRunesMain"), nullptr);
-    EXPECT_TRUE(Widget<QWidget>("picMain")->isVisible());
-}
-
-TEST_F(LauncherUi, LinksGoToTheBrowser) {
     QTest::mouseClick(Widget<QLabel>("lblZenthoraBanner"), Qt::LeftButton);
     QTest::mouseClick(Widget<QLabel>("Label7"), Qt::LeftButton);
     EXPECT_EQ(browser.opened,
               (std::vector<std::string>{"https://www.zenthora.net/",
                                         "https://www.zenthora.net/fully-branded.html"}));
-}
 
-TEST_F(LauncherUi, ASubjectClosedByItsOwnButtonLeavesNothingBehind) {
-    // The click closes the form that owns the button; the window goes later.
-    QTest::mouseClick(Widget<QAbstractButton>("cmdSelectOption(2)"), Qt::LeftButton);
-    auto* exit = Main()->findChild<QAbstractButton*>("cmdNav(1)");
-    ASSERT_NE(exit, nullptr);
-    QTest::mouseClick(exit, Qt::LeftButton);
+    QTest::mouseClick(Subject(1), Qt::LeftButton);
+    auto* mdi = Widget<QMdiArea>("mdiArea");
+    ASSERT_EQ(mdi->subWindowList().size(), 1);
+    EXPECT_EQ(mdi->subWindowList().first()->windowTitle(), "Quillane Learn Numerology");
+    EXPECT_FALSE(Welcome());
+    // The subject's menus take the menu bar's place; its File, Exit closes it.
+    QMenu* file = Main()->menuBar()->actions().first()->menu();
+    EXPECT_EQ(file->objectName(), "mnuFile");
+    EXPECT_EQ(file->actions().first()->text(), "E&xit");
+    file->actions().first()->trigger();
+    QCoreApplication::processEvents();
+    EXPECT_EQ(app->Find("frmLearnNumerologyMain"), nullptr);
+    EXPECT_TRUE(Welcome());
+    EXPECT_EQ(MenuTitles(), (QStringList{"&File", "&Help"}));
+
+    // A subject's own Exit button closes the form that owns it; the window goes later.
+    QTest::mouseClick(Subject(2), Qt::LeftButton);
+    QTest::mouseClick(Main()->findChild<QAbstractButton*>("cmdNav(1)"), Qt::LeftButton);
     QCoreApplication::processEvents();
     EXPECT_EQ(app->Find("frmLearnTarotMain"), nullptr);
-    EXPECT_TRUE(Widget<QMdiArea>("mdiArea")->subWindowList().isEmpty());
-    EXPECT_TRUE(Widget<QWidget>("picMain")->isVisible());
+    EXPECT_TRUE(mdi->subWindowList().isEmpty());
+    EXPECT_TRUE(Welcome());
+
+    // A subject's label underlines under the mouse, and opens its subject.
+    auto* label = Widget<QLabel>("lblCaption(6)");
+    QTest::mouseMove(label);
+    QMouseEvent move(QEvent::MouseMove, QPointF(5, 5), label->mapToGlobal(QPointF(5, 5)),
+                     Qt::NoButton, Qt::NoButton, Qt::NoModifier);
+    QApplication::sendEvent(label, &move);
+    EXPECT_TRUE(label->font().underline());
+    QMouseEvent leave(QEvent::MouseMove, QPointF(2, 2), QPointF(2, 2), Qt::NoButton, Qt::NoButton,
+                      Qt::NoModifier);
+    QApplication::sendEvent(Widget("picMain"), &leave);
+    EXPECT_FALSE(label->font().underline());
+    QTest::mouseClick(label, Qt::LeftButton);
+    EXPECT_NE(app->Find("frmLearnRunesMain"), nullptr);
+    EXPECT_EQ(Marked(), "3");
 }
 
-TEST_F(LauncherUi, EverySubjectOpensAndClosesByKeyboard) {
+// The Runes meaning test is a dialog in the launcher that stands in for the
+// Runes window, hidden meanwhile; the bar marks the Runes all along.
+TEST_F(LauncherUi, TheRuneMeaningDialogStandsInForTheHiddenRunesWindowUntilItCloses) {
+    Subject(3)->click();
+    for (const char* step :
+         {"cmdSubjects(2)", "optTestSubjects(0)", "cmdTestNext(0)", "chkTestType(0)",
+          "cmdTestNext(1)", "optTestLevel(1)", "cmdTestNext(2)"})
+        Widget<QAbstractButton>(step)->click();
+    QWidget* dialog = host->WindowOf("frmLearnRunesMeaningTest");
+    ASSERT_NE(dialog, nullptr);
+    EXPECT_TRUE(qobject_cast<QMdiSubWindow*>(dialog->parentWidget()));
+    EXPECT_TRUE(dialog->findChild<QWidget*>("chkMeaning(7)")->isVisible());
+    EXPECT_FALSE(host->WindowOf("frmLearnRunesMain")->isVisible());
+    EXPECT_EQ(Marked(), "3");
+    CloseFrame("frmLearnRunesMeaningTest"); // the title bar's close button, in mid-test
+    EXPECT_EQ(app->Find("frmLearnRunesMeaningTest"), nullptr);
+    EXPECT_TRUE(host->WindowOf("frmLearnRunesMain")->isVisible()) << "the Runes window comes back";
+    EXPECT_EQ(Marked(), "3");
+    CloseFrame("frmLearnRunesMain");
+    EXPECT_EQ(app->Find("frmLearnRunesMain"), nullptr);
+    EXPECT_TRUE(Welcome());
+    EXPECT_EQ(Marked(), "");
+}
+
+TEST_F(LauncherUi, EverySubjectOpensClosesAndIsLeftByKeyboard) {
     Main()->activateWindow();
     QApplication::setActiveWindow(Main());
-    auto* tarot = Widget<QAbstractButton>("cmdSelectOption(2)");
-    tarot->setFocus();
-    QTest::keyClick(tarot, Qt::Key_Return);
+    Subject(2)->setFocus();
+    QTest::keyClick(Subject(2), Qt::Key_Return);
     EXPECT_NE(app->Find("frmLearnTarotMain"), nullptr) << "Return presses the focused button";
     QTest::keyClick(Main(), Qt::Key_R, Qt::AltModifier);
     EXPECT_EQ(app->Find("frmLearnTarotMain"), nullptr);
     EXPECT_NE(app->Find("frmLearnRunesMain"), nullptr) << "Alt+R opens the Runes";
+    EXPECT_EQ(Marked(), "3");
     QTest::keyClick(Main(), Qt::Key_F4, Qt::ControlModifier);
     QCoreApplication::processEvents();
     EXPECT_EQ(app->Find("frmLearnRunesMain"), nullptr) << "Ctrl+F4 closes the subject in front";
-    EXPECT_TRUE(Widget<QWidget>("picMain")->isVisible());
-}
+    EXPECT_TRUE(Welcome());
+    EXPECT_EQ(Marked(), "");
 
-TEST_F(LauncherUi, TabAndF6LeadFromASubjectToTheLauncherAndBack) {
-    QApplication::setActiveWindow(Main());
-    Widget<QAbstractButton>("cmdSelectOption(0)")->click();
+    // Tab and F6 lead from a subject to the launcher and back.
+    Subject(0)->click();
     QWidget* subject = host->WindowOf("frmLearnAstrologyMain");
-    auto* next = subject->findChild<QWidget*>("cmdNext");
-    next->setFocus();
-    QWidget* last = next;
+    QWidget* last = subject->findChild<QWidget*>("cmdNext");
+    last->setFocus();
     for (int stops = 0; stops < 50 && subject->isAncestorOf(QApplication::focusWidget()); ++stops) {
         last = QApplication::focusWidget();
         QTest::keyClick(last, Qt::Key_Tab);
     }
-    EXPECT_EQ(QApplication::focusWidget(), Widget<QWidget>("cmdSelectOption(0)"))
+    EXPECT_EQ(QApplication::focusWidget(), Subject(0))
         << "Tab goes on from the subject's last control to the launcher's first button";
     QTest::keyClick(QApplication::focusWidget(), Qt::Key_Backtab);
     EXPECT_EQ(QApplication::focusWidget(), last);
-
     QTest::keyClick(last, Qt::Key_F6);
-    EXPECT_EQ(QApplication::focusWidget(), Widget<QWidget>("cmdSelectOption(0)"))
-        << "F6 goes to the open subject's button";
+    EXPECT_EQ(QApplication::focusWidget(), Subject(0)) << "F6 goes to the open subject's button";
     QTest::keyClick(QApplication::focusWidget(), Qt::Key_F6);
     EXPECT_EQ(QApplication::focusWidget(), last) << "and back to where the subject was";
 }
-
-TEST_F(LauncherUi, TheBarMarksTheOpenSubjectAlsoAfterTheRuneMeaningDialog) {
-    auto current = [this] {
-        QStringList marked;
-        for (int i = 0; i < 4; ++i)
-            if (Widget<QWidget>(qPrintable(QString("cmdSelectOption(%1)").arg(i)))
-                    ->property("current")
-                    .toBool())
-                marked << QString::number(i);
-        return marked.join(",").toStdString();
-    };
-    EXPECT_EQ(current(), "");
-    Widget<QAbstractButton>("cmdSelectOption(3)")->click();
-    for (const char* step :
-         {"cmdSubjects(2)", "optTestSubjects(0)", "cmdTestNext(0)", "chkTestType(1)",
-          "cmdTestNext(1)", "optTestLevel(0)", "cmdTestNext(2)"})
-        Widget<QAbstractButton>(step)->click();
-    ASSERT_NE(app->Find("frmLearnRunesMeaningTest"), nullptr);
-    EXPECT_EQ(current(), "3");
-    host->WindowOf("frmLearnRunesMeaningTest")->parentWidget()->close();
-    QCoreApplication::processEvents();
-    EXPECT_EQ(current(), "3");
-    Widget<QAbstractButton>("cmdSelectOption(0)")->click();
-    EXPECT_EQ(current(), "0");
-    QTest::keyClick(Main(), Qt::Key_F4, Qt::ControlModifier);
-    QCoreApplication::processEvents();
-    EXPECT_EQ(current(), "");
-}
-
-const char* const kSubjects[4] = {"Astrology", "Numerology", "Tarot", "Runes"};
 
 // What clips or overlaps in a window: a wrapped label shorter than its text,
 // or two controls of one container over each other.
@@ -207,16 +175,14 @@ TEST_F(LauncherUi, OnTheSmallestScreenEveryWindowFitsWithNothingCut) {
     Main()->resize(1024, 768);
     QCoreApplication::processEvents();
     auto* mdi = Widget<QMdiArea>("mdiArea");
-    auto fits = [mdi](const char* what) {
+    for (int step = 0; step < 5; ++step) {
+        (step < 4 ? Subject(step) : Widget<QAbstractButton>("cmdMemorize"))->click();
         QCoreApplication::processEvents();
         QMdiSubWindow* child = mdi->subWindowList().first();
-        EXPECT_TRUE(mdi->viewport()->rect().contains(child->geometry())) << what;
-        EXPECT_EQ(Clipped(child).join(", ").toStdString(), "") << what;
-    };
-    for (int subject = 0; subject < 4; ++subject) {
-        Widget<QAbstractButton>(qPrintable(QString("cmdSelectOption(%1)").arg(subject)))->click();
-        fits(kSubjects[subject]);
+        EXPECT_TRUE(mdi->viewport()->rect().contains(child->geometry())) << step;
+        EXPECT_EQ(Clipped(child).join(", ").toStdString(), "")
+            << child->windowTitle().toStdString();
     }
-    Widget<QAbstractButton>("cmdMemorize")->click();
-    fits("the rune stones");
 }
+
+} // namespace

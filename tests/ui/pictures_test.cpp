@@ -16,19 +16,15 @@ namespace {
 
 using namespace quillane::modLearnRunes;
 
-QByteArray Read(const QString& path) {
-    QFile file(path);
-    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
-}
-
-TEST(Pictures, EachIsAValidDrawingOfPathsAndNoneIsAnothersCopy) {
+TEST(Pictures, EachIsAValidDrawingOfPathsNoneIsAnothersCopyAndEveryEntryHasOne) {
     quillane::testing::EnsureQApplication();
     std::set<QByteArray> seen;
     for (const char* folder : {":/astrology", ":/icons", ":/launcher", ":/runes"}) {
         int count = 0;
         for (QDirIterator it(folder, {"*.svg"}, QDir::Files); it.hasNext(); ++count) {
             const QString path = it.next();
-            const QByteArray svg = Read(path);
+            QFile file(path);
+            const QByteArray svg = file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
             QSvgRenderer renderer(svg);
             EXPECT_TRUE(renderer.isValid()) << path.toStdString();
             EXPECT_FALSE(svg.contains("<text") || svg.contains("font")) << path.toStdString();
@@ -45,24 +41,20 @@ TEST(Pictures, EachIsAValidDrawingOfPathsAndNoneIsAnothersCopy) {
         }
         EXPECT_GT(count, 1) << folder;
     }
-}
-
-TEST(Pictures, EverySignPlanetAndRuneEntryHasItsPicture) {
-    for (int i = 0; i < 12; ++i)
+    // Every sign, planet and rune entry has its picture.
+    for (int i = 0; i < 12; ++i) {
         EXPECT_TRUE(QFile::exists(QString(":/astrology/sign-%1.svg").arg(i))) << i;
-    for (int i = 0; i < 10; ++i)
-        EXPECT_TRUE(QFile::exists(QString(":/astrology/planet-%1.svg").arg(i))) << i;
+        EXPECT_TRUE(i >= 10 || QFile::exists(QString(":/astrology/planet-%1.svg").arg(i))) << i;
+    }
+    // Entry n is stone n, the blank stone last.
     LoadRuneTables();
-    ASSERT_EQ(kImgKey.size(), 25u);
     for (int entry = 1; entry <= 25; ++entry) {
         const std::string name = entry <= 24 ? strStoneName[std::size_t(entry - 1)] : "Blank";
-        EXPECT_EQ(kImgKey[std::size_t(entry - 1)],
-                  (entry < 10 ? "0" : "") + std::to_string(entry) + " " + name);
+        EXPECT_EQ(kImgKey.at(std::size_t(entry - 1)).substr(3), name);
         EXPECT_TRUE(QFile::exists(QString::fromStdString(":/runes/" + ImgFileName(entry))))
             << entry;
     }
-    EXPECT_EQ(ImgFileName(0), "");
-    EXPECT_EQ(ImgFileName(26), "");
+    EXPECT_EQ(ImgFileName(0) + ImgFileName(26), "");
 }
 
 } // namespace
