@@ -6,7 +6,6 @@
 #include <QGridLayout>
 #include <QLineEdit>
 #include <QScrollArea>
-#include <QTabWidget>
 #include <QTreeWidget>
 
 namespace quillane::ui {
@@ -18,8 +17,8 @@ using namespace kit;
 // The size of a card's picture on the screen: the deck's proportions.
 constexpr QSize kCardSize(132, 228);
 
-QWidget* Page(QVBoxLayout*& column) {
-    auto* page = new QWidget;
+QWidget* Page(TabPages* tabs, QVBoxLayout*& column) {
+    QWidget* page = tabs->NewPage();
     column = new QVBoxLayout(page);
     column->setContentsMargins(12, 8, 12, 8);
     column->setSpacing(6);
@@ -46,9 +45,9 @@ QWidget* DatePicker(const QString& path) {
 }
 
 // The goals in a list on the left, the goal in view on the right.
-QWidget* GoalsPage() {
+QWidget* GoalsPage(TabPages* tabs) {
     QVBoxLayout* column = nullptr;
-    QWidget* page = Page(column);
+    QWidget* page = Page(tabs, column);
     // Two lines at the window's width; the tab reserves them.
     auto* intro = Label("Label10", "hint");
     intro->setMinimumHeight(2 * intro->fontMetrics().lineSpacing() + 6);
@@ -113,9 +112,9 @@ QWidget* GoalsPage() {
 }
 
 // Four columns: each choice in its frame, its help text below it.
-QWidget* SettingsPage() {
+QWidget* SettingsPage(TabPages* tabs) {
     QVBoxLayout* column = nullptr;
-    QWidget* page = Page(column);
+    QWidget* page = Page(tabs, column);
     auto* row = new QHBoxLayout;
     row->setSpacing(12);
     auto addColumn = [row](QWidget* frame, std::initializer_list<const char*> help) {
@@ -163,9 +162,9 @@ QWidget* SettingsPage() {
     return page;
 }
 
-QWidget* MemorizePage() {
+QWidget* MemorizePage(TabPages* tabs) {
     QVBoxLayout* column = nullptr;
-    QWidget* page = Page(column);
+    QWidget* page = Page(tabs, column);
     column->addWidget(Label("lblCardNameMemorize", "heading"));
     auto* row = new QHBoxLayout;
     row->setSpacing(14);
@@ -233,9 +232,9 @@ QWidget* KeywordChoices() {
     return container;
 }
 
-QWidget* TestPage() {
+QWidget* TestPage(TabPages* tabs) {
     QVBoxLayout* column = nullptr;
-    QWidget* page = Page(column);
+    QWidget* page = Page(tabs, column);
     auto* row = new QHBoxLayout;
     row->setSpacing(16);
     auto* card = new QVBoxLayout;
@@ -256,9 +255,9 @@ QWidget* TestPage() {
     return page;
 }
 
-QWidget* ResultsPage() {
+QWidget* ResultsPage(TabPages* tabs) {
     QVBoxLayout* column = nullptr;
-    QWidget* page = Page(column);
+    QWidget* page = Page(tabs, column);
     column->addWidget(Label("lblResultInfo", "caption"));
     auto* report = TextBox("txtResult");
     report->setAccessibleName("Test report");
@@ -281,10 +280,10 @@ QWidget* BuildTarotWindow(Form& form, QWidget* frame) {
     auto* hook = Picture("picHook", QSize(1, 1));
     hook->hide();
     column->addWidget(hook);
-    auto* tabs = Named(new QTabWidget, "SSTab1");
+    auto* tabs = new TabPages("SSTab1");
     column->addWidget(tabs);
-    for (QWidget* page : {GoalsPage(), SettingsPage(), MemorizePage(), TestPage(), ResultsPage()})
-        tabs->addTab(page, QString());
+    for (auto* page : {GoalsPage, SettingsPage, MemorizePage, TestPage, ResultsPage})
+        tabs->addTab(page(tabs), QString());
     return window;
 }
 
