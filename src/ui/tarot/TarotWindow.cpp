@@ -5,6 +5,7 @@
 #include <QFontDatabase>
 #include <QGridLayout>
 #include <QLineEdit>
+#include <QLocale>
 #include <QScrollArea>
 #include <QTreeWidget>
 
@@ -25,22 +26,36 @@ QWidget* Page(TabPages* tabs, QVBoxLayout*& column) {
     return page;
 }
 
-// The date picker: day, month and year side by side, at a fixed size.
+// The date picker: day, month and year side by side, at a fixed size that
+// shows the longest of each list (a month's name in the user's language)
+// whole, although the program fills the lists only later.
 QWidget* DatePicker(const QString& path) {
     auto* picker = Panel(path);
     auto* row = new QHBoxLayout(picker);
     row->setContentsMargins(0, 0, 0, 0);
     row->setSpacing(4);
     const QString which = path.contains("Starting") ? "Starting" : "Ending";
-    for (const char* list : {"cboDate", "cboMonth", "cboYear"}) {
-        auto* combo = DropDown(list);
-        combo->setAccessibleName(which + (QString(list) == "cboDate"    ? " day"
-                                          : QString(list) == "cboMonth" ? " month"
-                                                                        : " year"));
+    QStringList months;
+    for (int month = 1; month <= 12; ++month)
+        months << QLocale::system().standaloneMonthName(month);
+    struct Part {
+        const char* list;
+        const char* name;
+        QStringList longest;
+    };
+    for (const Part& part : {Part{"cboDate", " day", {"30"}}, Part{"cboMonth", " month", months},
+                             Part{"cboYear", " year", {"2026"}}}) {
+        auto* combo = DropDown(part.list);
+        combo->setAccessibleName(which + part.name);
         combo->setMaxVisibleItems(12);
-        row->addWidget(combo, QString(list) == "cboMonth" ? 2 : 1);
+        int text = 0;
+        for (const QString& entry : part.longest)
+            text = std::max(text, combo->fontMetrics().horizontalAdvance(entry));
+        // The frame, the padding and the arrow come on top of the text.
+        combo->setMinimumWidth(text + 36);
+        row->addWidget(combo, part.longest.size() > 1 ? 2 : 1);
     }
-    picker->setFixedWidth(260);
+    picker->setFixedWidth(std::max(260, picker->minimumSizeHint().width()));
     return picker;
 }
 
