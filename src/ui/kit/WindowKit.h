@@ -13,6 +13,7 @@
 #include <QPushButton>
 #include <QRadioButton>
 #include <QStackedWidget>
+#include <QTabWidget>
 #include <QTextEdit>
 #include <QVBoxLayout>
 #include <initializer_list>
@@ -88,6 +89,30 @@ public:
 protected:
     void paintEvent(QPaintEvent*) override;
     bool hitButton(const QPoint&) const override { return true; }
+};
+
+// Tab pages that are repainted when their layout changes, not at every
+// request to look at it again. Qt's tab widget repaints itself whole at each
+// such request, and one comes whenever a label on a page takes a new text:
+// each step of a walk would repaint every tab and control of the window.
+class TabPages : public QTabWidget {
+public:
+    explicit TabPages(const QString& path);
+    // A page to be, made where the pages stand: its widgets take their looks
+    // there once, where a page made elsewhere would take them again on going
+    // into its tab.
+    QWidget* NewPage();
+
+protected:
+    bool event(QEvent* event) override;
+
+private:
+    struct Layout {
+        QSize size, bar, hint, minimum;
+        bool operator==(const Layout&) const = default;
+    };
+    Layout Current() const;
+    Layout laidOut_;
 };
 
 // A check box or option whose caption is a paragraph: the text wraps under

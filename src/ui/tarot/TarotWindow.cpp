@@ -5,8 +5,8 @@
 #include <QFontDatabase>
 #include <QGridLayout>
 #include <QLineEdit>
+#include <QLocale>
 #include <QScrollArea>
-#include <QTabWidget>
 #include <QTreeWidget>
 
 namespace quillane::ui {
@@ -18,37 +18,51 @@ using namespace kit;
 // The size of a card's picture on the screen: the deck's proportions.
 constexpr QSize kCardSize(132, 228);
 
-QWidget* Page(QVBoxLayout*& column) {
-    auto* page = new QWidget;
+QWidget* Page(TabPages* tabs, QVBoxLayout*& column) {
+    QWidget* page = tabs->NewPage();
     column = new QVBoxLayout(page);
     column->setContentsMargins(12, 8, 12, 8);
     column->setSpacing(6);
     return page;
 }
 
-// The date picker: day, month and year side by side, at a fixed size.
+// The date picker: day, month and year side by side, at a fixed size that
+// shows the longest of each list (a month's name in the user's language)
+// whole, although the program fills the lists only later.
 QWidget* DatePicker(const QString& path) {
     auto* picker = Panel(path);
     auto* row = new QHBoxLayout(picker);
     row->setContentsMargins(0, 0, 0, 0);
     row->setSpacing(4);
     const QString which = path.contains("Starting") ? "Starting" : "Ending";
-    for (const char* list : {"cboDate", "cboMonth", "cboYear"}) {
-        auto* combo = DropDown(list);
-        combo->setAccessibleName(which + (QString(list) == "cboDate"    ? " day"
-                                          : QString(list) == "cboMonth" ? " month"
-                                                                        : " year"));
+    QStringList months;
+    for (int month = 1; month <= 12; ++month)
+        months << QLocale::system().standaloneMonthName(month);
+    struct Part {
+        const char* list;
+        const char* name;
+        QStringList longest;
+    };
+    for (const Part& part : {Part{"cboDate", " day", {"30"}}, Part{"cboMonth", " month", months},
+                             Part{"cboYear", " year", {"2026"}}}) {
+        auto* combo = DropDown(part.list);
+        combo->setAccessibleName(which + part.name);
         combo->setMaxVisibleItems(12);
-        row->addWidget(combo, QString(list) == "cboMonth" ? 2 : 1);
+        int text = 0;
+        for (const QString& entry : part.longest)
+            text = std::max(text, combo->fontMetrics().horizontalAdvance(entry));
+        // The frame, the padding and the arrow come on top of the text.
+        combo->setMinimumWidth(text + 36);
+        row->addWidget(combo, part.longest.size() > 1 ? 2 : 1);
     }
-    picker->setFixedWidth(260);
+    picker->setFixedWidth(std::max(260, picker->minimumSizeHint().width()));
     return picker;
 }
 
 // The goals in a list on the left, the goal in view on the right.
-QWidget* GoalsPage() {
+QWidget* GoalsPage(TabPages* tabs) {
     QVBoxLayout* column = nullptr;
-    QWidget* page = Page(column);
+    QWidget* page = Page(tabs, column);
     // Two lines at the window's width; the tab reserves them.
     auto* intro = Label("Label10", "hint");
     intro->setMinimumHeight(2 * intro->fontMetrics().lineSpacing() + 6);
@@ -113,9 +127,9 @@ QWidget* GoalsPage() {
 }
 
 // Four columns: each choice in its frame, its help text below it.
-QWidget* SettingsPage() {
+QWidget* SettingsPage(TabPages* tabs) {
     QVBoxLayout* column = nullptr;
-    QWidget* page = Page(column);
+    QWidget* page = Page(tabs, column);
     auto* row = new QHBoxLayout;
     row->setSpacing(12);
     auto addColumn = [row](QWidget* frame, std::initializer_list<const char*> help) {
@@ -163,9 +177,9 @@ QWidget* SettingsPage() {
     return page;
 }
 
-QWidget* MemorizePage() {
+QWidget* MemorizePage(TabPages* tabs) {
     QVBoxLayout* column = nullptr;
-    QWidget* page = Page(column);
+    QWidget* page = Page(tabs, column);
     column->addWidget(Label("lblCardNameMemorize", "heading"));
     auto* row = new QHBoxLayout;
     row->setSpacing(14);
@@ -233,9 +247,9 @@ QWidget* KeywordChoices() {
     return container;
 }
 
-QWidget* TestPage() {
+QWidget* TestPage(TabPages* tabs) {
     QVBoxLayout* column = nullptr;
-    QWidget* page = Page(column);
+    QWidget* page = Page(tabs, column);
     auto* row = new QHBoxLayout;
     row->setSpacing(16);
     auto* card = new QVBoxLayout;
@@ -256,9 +270,9 @@ QWidget* TestPage() {
     return page;
 }
 
-QWidget* ResultsPage() {
+QWidget* ResultsPage(TabPages* tabs) {
     QVBoxLayout* column = nullptr;
-    QWidget* page = Page(column);
+    QWidget* page = Page(tabs, column);
     column->addWidget(Label("lblResultInfo", "caption"));
     auto* report = TextBox("txtResult");
     report->setAccessibleName("Test report");
@@ -281,10 +295,10 @@ QWidget* BuildTarotWindow(Form& form, QWidget* frame) {
     auto* hook = Picture("picHook", QSize(1, 1));
     hook->hide();
     column->addWidget(hook);
-    auto* tabs = Named(new QTabWidget, "SSTab1");
+    auto* tabs = new TabPages("SSTab1");
     column->addWidget(tabs);
-    for (QWidget* page : {GoalsPage(), SettingsPage(), MemorizePage(), TestPage(), ResultsPage()})
-        tabs->addTab(page, QString());
+    for (auto* page : {GoalsPage, SettingsPage, MemorizePage, TestPage, ResultsPage})
+        tabs->addTab(page(tabs), QString());
     return window;
 }
 
