@@ -170,8 +170,8 @@ bool ShowsEveryEntry(const QComboBox* combo) {
 }
 
 // What clips or overlaps in a window: a wrapped label shorter than its text,
-// a drop-down narrower than an entry, or two controls of one container over
-// each other.
+// a drop-down narrower than an entry, a button lower than it asks to be, or
+// two controls of one container over each other.
 QStringList Clipped(QWidget* window) {
     QStringList found;
     for (QWidget* w : window->findChildren<QWidget*>()) {
@@ -182,6 +182,8 @@ QStringList Clipped(QWidget* window) {
             found << w->objectName() + " is cut";
         if (auto* combo = qobject_cast<QComboBox*>(w); combo && !ShowsEveryEntry(combo))
             found << w->objectName() + " cuts an entry";
+        if (qobject_cast<QAbstractButton*>(w) && w->height() < w->sizeHint().height())
+            found << w->objectName() + " is squeezed";
         for (QWidget* other : w->parentWidget()->findChildren<QWidget*>(Qt::FindDirectChildrenOnly))
             if (other != w && other->isVisible() && w->geometry().intersects(other->geometry()) &&
                 !w->objectName().isEmpty() && w->objectName() < other->objectName())

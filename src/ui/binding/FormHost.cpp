@@ -123,10 +123,25 @@ void FormHost::FormShown(Form& form) {
         else
             sub->show();
         mdi_->setActiveSubWindow(sub);
+        FitWrappedTexts(sub);
     } else if (!form.IsModal()) {
         frame->show();
     }
     UpdateMenuBar();
+}
+
+void FormHost::FitWrappedTexts(QMdiSubWindow* sub) {
+    // Texts that wrap take their height from the width they are given, which
+    // is known once the window has its looks: a desktop font larger than the
+    // window was built with needs more lines than its size hint allowed for.
+    QWidget* inner = sub->widget();
+    if (!inner || !inner->hasHeightForWidth() || sub->isMinimized() || sub->isMaximized())
+        return;
+    const int frame = sub->height() - inner->height();
+    const int wanted = std::min(inner->heightForWidth(inner->width()) + frame,
+                                mdi_->viewport()->height() - sub->y());
+    if (wanted > sub->height())
+        sub->resize(sub->width(), wanted);
 }
 
 void FormHost::FormUnloaded(Form& form) {

@@ -12,6 +12,8 @@
 #include <functional>
 #include <map>
 
+class QMdiSubWindow;
+
 namespace quillane::ui {
 
 class FormHost : public QObject, public IFormHost {
@@ -48,6 +50,7 @@ private:
         Binder* binder = nullptr;
     };
     void UpdateMenuBar();
+    void FitWrappedTexts(QMdiSubWindow* sub);
 
     Application& app_;
     std::map<std::string, WindowBuilder> builders_;
