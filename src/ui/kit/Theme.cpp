@@ -56,6 +56,9 @@ QPushButton:pressed { background: #e6dcc0; }
 QPushButton:disabled { color: #9a96a8; border-color: #d8d0bc; }
 QRadioButton, QCheckBox { spacing: 8px; }
 QPushButton:focus { border: 2px solid #c98a1b; }
+QPlainTextEdit:focus, QTextEdit:focus, QLineEdit:focus, QTreeWidget:focus, QComboBox:focus {
+    border-color: #c98a1b;
+}
 QGroupBox { font-weight: 600; border: 1px solid #c8c2b0; border-radius: 4px;
             margin-top: 10px; padding: 8px 6px 6px 6px; }
 QGroupBox::title { subcontrol-origin: margin; left: 8px; padding: 0 4px; }

@@ -149,14 +149,17 @@ TabPages::TabPages(const QString& path) {
     setObjectName(path);
 }
 
+QStackedWidget* TabPages::Pages() const {
+    return findChild<QStackedWidget*>(QString(), Qt::FindDirectChildrenOnly);
+}
+
 QWidget* TabPages::NewPage() {
-    return new QWidget(findChild<QStackedWidget*>(QString(), Qt::FindDirectChildrenOnly));
+    return new QWidget(Pages());
 }
 
 TabPages::Layout TabPages::Current() const {
-    const QWidget* pages = currentWidget() ? currentWidget()->parentWidget() : nullptr;
-    return {size(), tabBar()->sizeHint(), pages ? pages->sizeHint() : QSize(),
-            pages ? pages->minimumSizeHint() : QSize()};
+    const QStackedWidget* pages = Pages();
+    return {size(), tabBar()->sizeHint(), pages->sizeHint(), pages->minimumSizeHint()};
 }
 
 bool TabPages::event(QEvent* event) {

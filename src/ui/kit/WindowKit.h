@@ -111,6 +111,8 @@ private:
         QSize size, bar, hint, minimum;
         bool operator==(const Layout&) const = default;
     };
+    // Where the pages stand: Qt's tab widget keeps them in a stack of its own.
+    QStackedWidget* Pages() const;
     Layout Current() const;
     Layout laidOut_;
 };

@@ -7,6 +7,7 @@
 #include <QLineEdit>
 #include <QLocale>
 #include <QScrollArea>
+#include <QStyleOptionComboBox>
 #include <QTreeWidget>
 
 namespace quillane::ui {
@@ -43,16 +44,19 @@ QWidget* DatePicker(const QString& path) {
         const char* name;
         QStringList longest;
     };
-    for (const Part& part : {Part{"cboDate", " day", {"30"}}, Part{"cboMonth", " month", months},
-                             Part{"cboYear", " year", {"2026"}}}) {
+    for (const Part& part : {Part{"cboDate", " day", {"00"}}, Part{"cboMonth", " month", months},
+                             Part{"cboYear", " year", {"0000"}}}) {
         auto* combo = DropDown(part.list);
         combo->setAccessibleName(which + part.name);
         combo->setMaxVisibleItems(12);
-        int text = 0;
+        QSize text;
         for (const QString& entry : part.longest)
-            text = std::max(text, combo->fontMetrics().horizontalAdvance(entry));
-        // The frame, the padding and the arrow come on top of the text.
-        combo->setMinimumWidth(text + 36);
+            text = text.expandedTo(combo->fontMetrics().size(Qt::TextSingleLine, entry));
+        // The style adds the frame, the padding and the arrow.
+        QStyleOptionComboBox option;
+        option.initFrom(combo);
+        combo->setMinimumWidth(
+            combo->style()->sizeFromContents(QStyle::CT_ComboBox, &option, text, combo).width());
         row->addWidget(combo, part.longest.size() > 1 ? 2 : 1);
     }
     picker->setFixedWidth(std::max(260, picker->minimumSizeHint().width()));
