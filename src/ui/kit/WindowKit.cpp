@@ -1,6 +1,7 @@
 #include "WindowKit.h"
 
 #include "Theme.h"
+#include "WrappedHeights.h"
 
 #include <QFrame>
 #include <QStyleOptionButton>
@@ -10,7 +11,7 @@
 namespace quillane::ui::kit {
 
 QLabel* Label(const QString& path, const char* role, bool wrap) {
-    auto* label = Named(new QLabel, path);
+    auto* label = Named(wrap ? new WrappedLabel : new QLabel, path);
     label->setWordWrap(wrap);
     if (role)
         Role(label, role);
@@ -45,8 +46,30 @@ QComboBox* DropDown(const QString& path) {
     return Named(new QComboBox, path);
 }
 
+namespace {
+
+// Fills a widget's background before the style sheet paints it. A styled
+// background leaves a widget see-through to Qt, so any change inside it made
+// Qt paint every widget beneath, up to the window, first. The style sheet
+// turns the fill off as it polishes the widget; it is turned on after.
+template <class W> class Opaque : public W {
+protected:
+    bool event(QEvent* event) override {
+        const bool done = W::event(event);
+        if (event->type() == QEvent::Polish || event->type() == QEvent::StyleChange) {
+            if constexpr (std::is_base_of_v<QAbstractScrollArea, W>)
+                this->viewport()->setAutoFillBackground(true);
+            else
+                this->setAutoFillBackground(true);
+        }
+        return done;
+    }
+};
+
+} // namespace
+
 QPlainTextEdit* TextBox(const QString& path, bool readOnly) {
-    auto* box = Named(new QPlainTextEdit, path);
+    auto* box = Named(new Opaque<QPlainTextEdit>, path);
     box->setVerticalScrollBarPolicy(Qt::ScrollBarAsNeeded);
     box->setReadOnly(readOnly);
     return box;
@@ -68,7 +91,7 @@ QLabel* Picture(const QString& path, QSize size, const char* role) {
 }
 
 QWidget* Panel(const QString& path) {
-    return Named(new QWidget, path);
+    return Named(new Opaque<QWidget>, path);
 }
 
 QGroupBox* Frame(const QString& path) {
@@ -197,9 +220,13 @@ template <class Button> int Wrapping<Button>::TextLeft() const {
 }
 
 template <class Button> int Wrapping<Button>::heightForWidth(int width) const {
-    const QRect text = this->fontMetrics().boundingRect(QRect(0, 0, TextWidth(width), 100000),
-                                                        Qt::TextWordWrap, this->text());
-    return std::max(text.height(), Indicator().height()) + 4;
+    const int indicator = Indicator().height();
+    return heights_.At(width, this->text(), this->font(), {indicator, TextLeft(), 0, 0},
+                       [this, indicator](int w) {
+                           const QRect text = this->fontMetrics().boundingRect(
+                               QRect(0, 0, TextWidth(w), 100000), Qt::TextWordWrap, this->text());
+                           return std::max(text.height(), indicator) + 4;
+                       });
 }
 
 template <class Button> void Wrapping<Button>::paintEvent(QPaintEvent*) {

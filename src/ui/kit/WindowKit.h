@@ -1,7 +1,8 @@
 #pragma once
 // The pieces every window is built from. A widget that shows a control carries
 // the control's path as its object name, so the binder finds it; looks come
-// from the theme through roles, never from a window's own style sheet.
+// from the theme through roles, never from style sheets of a window's own.
+#include "WrappedHeights.h"
 #include "ui/binding/Adapters.h"
 
 #include <QCheckBox>
@@ -135,6 +136,7 @@ private:
     QSize Indicator() const;
     int TextLeft() const;
     int TextWidth(int width) const { return std::max(40, width - TextLeft()); }
+    mutable WrappedHeights heights_;
 };
 using WrapCheck = Wrapping<QCheckBox>;
 using WrapOption = Wrapping<QRadioButton>;
