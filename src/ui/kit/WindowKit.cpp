@@ -53,6 +53,9 @@ namespace {
 // Qt paint every widget beneath, up to the window, first. The style sheet
 // turns the fill off as it polishes the widget; it is turned on after.
 template <class W> class Opaque : public W {
+public:
+    using W::W;
+
 protected:
     bool event(QEvent* event) override {
         const bool done = W::event(event);
@@ -68,8 +71,8 @@ protected:
 
 } // namespace
 
-QPlainTextEdit* TextBox(const QString& path, bool readOnly) {
-    auto* box = Named(new Opaque<QPlainTextEdit>, path);
+QPlainTextEdit* TextBox(const QString& path, bool readOnly, QWidget* in) {
+    auto* box = Named(new Opaque<QPlainTextEdit>(in), path);
     box->setVerticalScrollBarPolicy(Qt::ScrollBarAsNeeded);
     box->setReadOnly(readOnly);
     return box;
@@ -90,8 +93,8 @@ QLabel* Picture(const QString& path, QSize size, const char* role) {
     return label;
 }
 
-QWidget* Panel(const QString& path) {
-    return Named(new Opaque<QWidget>, path);
+QWidget* Panel(const QString& path, QWidget* in) {
+    return Named(new Opaque<QWidget>(in), path);
 }
 
 QGroupBox* Frame(const QString& path) {
@@ -103,6 +106,13 @@ QStackedWidget* Stack(QBoxLayout* place, std::initializer_list<QWidget*> panels,
     place->addWidget(stack, stretch);
     for (QWidget* panel : panels)
         stack->addWidget(panel);
+    return stack;
+}
+
+QStackedWidget* Stack(QBoxLayout* place, std::initializer_list<PanelMaker> panels, int stretch) {
+    QStackedWidget* stack = Stack(place, std::initializer_list<QWidget*>{}, stretch);
+    for (const PanelMaker& make : panels)
+        stack->addWidget(make(stack));
     return stack;
 }
 
@@ -267,7 +277,9 @@ QWidget* SubjectShell(Form& form, QWidget* frame, QWidget* body, const char* sub
     linkColumn->setContentsMargins(0, 8, 0, 0);
     for (const char* link : {"lblCobrand", "lblFullBrand", forumLabel})
         linkColumn->addWidget(Link(link));
+    // The foot stands in the window before its button is measured below.
     auto* foot = new QHBoxLayout;
+    column->addLayout(foot);
     foot->addWidget(links, 1);
     int linkWidth = body->minimumWidth();
     if (form.Find("cmdNav(1)")) {
@@ -275,7 +287,6 @@ QWidget* SubjectShell(Form& form, QWidget* frame, QWidget* body, const char* sub
         foot->addWidget(exit, 0, Qt::AlignBottom);
         linkWidth -= exit->sizeHint().width() + foot->spacing();
     }
-    column->addLayout(foot);
     // The links wrap, and the window is sized before they get their texts:
     // their height at the narrowest width is reserved from the form's
     // captions, so they never ride over the panels.
