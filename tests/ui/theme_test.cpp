@@ -1,5 +1,6 @@
 // The theme on a dark desktop: every text of every window stays readable,
-// because the windows carry their own palette and colours.
+// because the windows carry their own palette and colours, each subject's in
+// its accent.
 #include "DesktopSession.h"
 
 #include <QAbstractButton>
@@ -11,6 +12,8 @@
 #include <algorithm>
 #include <cmath>
 #include <map>
+#include <set>
+#include <vector>
 
 using namespace quillane;
 
@@ -61,10 +64,17 @@ TEST_F(DarkDesktop, EveryTextOfEveryWindowStaysReadable) {
     ui::theme::Apply(*qApp); // as the program does at its start, over the desktop's palette
     QMainWindow* main = MainWindow();
     main->resize(1366, 768);
+    // The ink of each subject's headings, titles and captions: its accent.
+    std::vector<std::set<QRgb>> accents(4);
     for (int subject = 0; subject < 4; ++subject) {
         main->findChild<QAbstractButton*>(QString("cmdSelectOption(%1)").arg(subject))->click();
         QCoreApplication::processEvents();
         for (QWidget* widget : main->findChildren<QWidget*>()) {
+            if (const QString role = widget->property("role").toString();
+                role == "heading" || role == "title" || role == "caption") {
+                widget->ensurePolished();
+                accents[subject].insert(widget->palette().color(QPalette::WindowText).rgb());
+            }
             auto* label = qobject_cast<QLabel*>(widget);
             auto* button = qobject_cast<QPushButton*>(widget);
             const bool text = (label && !label->text().isEmpty() && label->pixmap().isNull()) ||
@@ -75,6 +85,12 @@ TEST_F(DarkDesktop, EveryTextOfEveryWindowStaysReadable) {
                 << widget->objectName().toStdString() << " in subject " << subject;
         }
     }
+    std::set<QRgb> distinct;
+    for (const auto& inks : accents) {
+        EXPECT_EQ(inks.size(), 1u) << "one accent to a subject";
+        distinct.insert(inks.begin(), inks.end());
+    }
+    EXPECT_EQ(distinct.size(), 4u) << "each subject its own accent";
 }
 
 } // namespace

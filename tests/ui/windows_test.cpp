@@ -130,6 +130,11 @@ TEST_F(Windows, AstrologyBrowsingShowsTheGlyphAndALongValueThatWraps) {
     EXPECT_EQ(value->text().size(), 1000) << "Leo's paragraph, whole";
     EXPECT_TRUE(value->wordWrap());
     EXPECT_NE(qobject_cast<QScrollArea*>(value->parentWidget()->parentWidget()), nullptr);
+    // The height it keeps for a width is the one Qt works out, before and
+    // after the text changes.
+    EXPECT_EQ(value->heightForWidth(300), value->QLabel::heightForWidth(300));
+    Press({"cmdBackDesc"});
+    EXPECT_EQ(value->heightForWidth(300), value->QLabel::heightForWidth(300));
     auto* glyph = Widget<QLabel>("picAstro");
     ASSERT_FALSE(glyph->pixmap().isNull());
     EXPECT_GE(glyph->pixmap().deviceIndependentSize().width(), 96);

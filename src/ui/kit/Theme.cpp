@@ -69,21 +69,23 @@ QTabBar::tab:selected { background: #ffffff; }
 QTabBar::tab:disabled { color: #a8a2b4; }
 )";
 
-// Rules in the subject's accent; SUBJECT, ACCENT, HOVER and PAPER are
-// filled in for each subject.
+// Rules in the subject's accent, given to the subject's window itself;
+// ACCENT, HOVER and PAPER are filled in for each subject. A window's own
+// sheet is matched against its widgets alone: in the application's sheet,
+// each accent rule looked for its subject up every widget's ancestors.
 const char* const kAccented = R"(
-*[subject="SUBJECT"], *[subject="SUBJECT"] QStackedWidget > QWidget { background: PAPER; }
-*[subject="SUBJECT"] QLabel[role="heading"] { color: ACCENT; font-size: 15pt; font-weight: 600; }
-*[subject="SUBJECT"] QLabel[role="title"] { color: ACCENT; font-size: 19pt; font-weight: 600; }
-*[subject="SUBJECT"] QLabel[role="caption"] { color: ACCENT; font-weight: 600; }
-*[subject="SUBJECT"] QLabel[role="prompt"] { color: ACCENT; font-size: 10.5pt; font-style: italic; }
-*[subject="SUBJECT"] QGroupBox { color: ACCENT; }
-*[subject="SUBJECT"] QPushButton[role="primary"] { background: ACCENT; color: #ffffff; border-color: ACCENT; }
-*[subject="SUBJECT"] QPushButton[role="primary"]:hover { background: HOVER; }
-*[subject="SUBJECT"] QPushButton[role="primary"]:disabled { background: #b4b2c8; border-color: #b4b2c8; }
-*[subject="SUBJECT"] QPushButton[role="primary"]:focus { border: 2px solid #c98a1b; }
-*[subject="SUBJECT"] QPushButton[role="subject"] { background: ACCENT; color: #f3ecd8; border-color: ACCENT; font-weight: 600; }
-*[subject="SUBJECT"] QPushButton[role="subject"]:hover { background: HOVER; }
+*[subject], QStackedWidget > QWidget { background: PAPER; }
+QLabel[role="heading"] { color: ACCENT; font-size: 15pt; font-weight: 600; }
+QLabel[role="title"] { color: ACCENT; font-size: 19pt; font-weight: 600; }
+QLabel[role="caption"] { color: ACCENT; font-weight: 600; }
+QLabel[role="prompt"] { color: ACCENT; font-size: 10.5pt; font-style: italic; }
+QGroupBox { color: ACCENT; }
+QPushButton[role="primary"] { background: ACCENT; color: #ffffff; border-color: ACCENT; }
+QPushButton[role="primary"]:hover { background: HOVER; }
+QPushButton[role="primary"]:disabled { background: #b4b2c8; border-color: #b4b2c8; }
+QPushButton[role="primary"]:focus { border: 2px solid #c98a1b; }
+QPushButton[role="subject"] { background: ACCENT; color: #f3ecd8; border-color: ACCENT; font-weight: 600; }
+QPushButton[role="subject"]:hover { background: HOVER; }
 )";
 
 // The launcher keeps its night sky whatever the desktop's palette.
@@ -144,24 +146,35 @@ QPalette Palette() {
 }
 
 QString StyleSheet() {
-    QString sheet = kBase;
+    return QString(kBase) + kLauncher;
+}
+
+QString SubjectSheet(const char* subject) {
     for (const Accent& a : kAccents)
-        sheet += QString(kAccented)
-                     .replace("SUBJECT", a.subject)
-                     .replace("ACCENT", a.colour)
-                     .replace("HOVER", a.hover)
-                     .replace("PAPER", a.paper);
-    return sheet + kLauncher;
+        if (qstrcmp(a.subject, subject) == 0)
+            return QString(kAccented)
+                .replace("ACCENT", a.colour)
+                .replace("HOVER", a.hover)
+                .replace("PAPER", a.paper);
+    return {};
 }
 
 void Apply(QApplication& app) {
     QApplication::setPalette(Palette());
+    // Latin text is laid out without the font's shaping rules (kerning,
+    // ligatures); scripts that need them keep them. At the program's sizes the
+    // difference does not show, and shaping was the largest part of laying
+    // out a window's texts.
+    QFont font = QApplication::font();
+    font.setStyleStrategy(QFont::PreferNoShaping);
+    QApplication::setFont(font);
     app.setStyleSheet(StyleSheet());
 }
 
 void SetSubject(QWidget* body, const char* subject) {
     body->setProperty("subject", subject);
     body->setAttribute(Qt::WA_StyledBackground);
+    body->setStyleSheet(SubjectSheet(subject));
 }
 
 } // namespace quillane::ui::theme

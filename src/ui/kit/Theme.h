@@ -1,8 +1,9 @@
 #pragma once
 // The one look of the program: an explicit palette, so that a dark desktop
-// theme leaves the windows readable, and one style sheet with roles
-// (role="heading", role="primary", ...) and an accent per subject (the
-// subject's window body carries subject="astrology" and so on).
+// theme leaves the windows readable, one style sheet with roles
+// (role="heading", role="primary", ...), and an accent per subject (the
+// subject's window carries subject="astrology" and so on, and the accent's
+// own sheet).
 #include <QPalette>
 #include <QString>
 
@@ -13,6 +14,8 @@ namespace quillane::ui::theme {
 
 QPalette Palette();
 QString StyleSheet();
+// The rules of a subject's accent, for its window.
+QString SubjectSheet(const char* subject);
 // Gives the application the palette and the style sheet.
 void Apply(QApplication& app);
 // Marks a window body as a subject's, for its accent.

@@ -1,6 +1,7 @@
 #include "WindowKit.h"
 
 #include "Theme.h"
+#include "WrappedHeights.h"
 
 #include <QFrame>
 #include <QStyleOptionButton>
@@ -10,7 +11,7 @@
 namespace quillane::ui::kit {
 
 QLabel* Label(const QString& path, const char* role, bool wrap) {
-    auto* label = Named(new QLabel, path);
+    auto* label = Named(wrap ? new WrappedLabel : new QLabel, path);
     label->setWordWrap(wrap);
     if (role)
         Role(label, role);
@@ -45,8 +46,33 @@ QComboBox* DropDown(const QString& path) {
     return Named(new QComboBox, path);
 }
 
-QPlainTextEdit* TextBox(const QString& path, bool readOnly) {
-    auto* box = Named(new QPlainTextEdit, path);
+namespace {
+
+// Fills a widget's background before the style sheet paints it. A styled
+// background leaves a widget see-through to Qt, so any change inside it made
+// Qt paint every widget beneath, up to the window, first. The style sheet
+// turns the fill off as it polishes the widget; it is turned on after.
+template <class W> class Opaque : public W {
+public:
+    using W::W;
+
+protected:
+    bool event(QEvent* event) override {
+        const bool done = W::event(event);
+        if (event->type() == QEvent::Polish || event->type() == QEvent::StyleChange) {
+            if constexpr (std::is_base_of_v<QAbstractScrollArea, W>)
+                this->viewport()->setAutoFillBackground(true);
+            else
+                this->setAutoFillBackground(true);
+        }
+        return done;
+    }
+};
+
+} // namespace
+
+QPlainTextEdit* TextBox(const QString& path, bool readOnly, QWidget* in) {
+    auto* box = Named(new Opaque<QPlainTextEdit>(in), path);
     box->setVerticalScrollBarPolicy(Qt::ScrollBarAsNeeded);
     box->setReadOnly(readOnly);
     return box;
@@ -67,8 +93,8 @@ QLabel* Picture(const QString& path, QSize size, const char* role) {
     return label;
 }
 
-QWidget* Panel(const QString& path) {
-    return Named(new QWidget, path);
+QWidget* Panel(const QString& path, QWidget* in) {
+    return Named(new Opaque<QWidget>(in), path);
 }
 
 QGroupBox* Frame(const QString& path) {
@@ -80,6 +106,13 @@ QStackedWidget* Stack(QBoxLayout* place, std::initializer_list<QWidget*> panels,
     place->addWidget(stack, stretch);
     for (QWidget* panel : panels)
         stack->addWidget(panel);
+    return stack;
+}
+
+QStackedWidget* Stack(QBoxLayout* place, std::initializer_list<PanelMaker> panels, int stretch) {
+    QStackedWidget* stack = Stack(place, std::initializer_list<QWidget*>{}, stretch);
+    for (const PanelMaker& make : panels)
+        stack->addWidget(make(stack));
     return stack;
 }
 
@@ -197,9 +230,13 @@ template <class Button> int Wrapping<Button>::TextLeft() const {
 }
 
 template <class Button> int Wrapping<Button>::heightForWidth(int width) const {
-    const QRect text = this->fontMetrics().boundingRect(QRect(0, 0, TextWidth(width), 100000),
-                                                        Qt::TextWordWrap, this->text());
-    return std::max(text.height(), Indicator().height()) + 4;
+    const int indicator = Indicator().height();
+    return heights_.At(width, this->text(), this->font(), {indicator, TextLeft(), 0, 0},
+                       [this, indicator](int w) {
+                           const QRect text = this->fontMetrics().boundingRect(
+                               QRect(0, 0, TextWidth(w), 100000), Qt::TextWordWrap, this->text());
+                           return std::max(text.height(), indicator) + 4;
+                       });
 }
 
 template <class Button> void Wrapping<Button>::paintEvent(QPaintEvent*) {
@@ -240,7 +277,9 @@ QWidget* SubjectShell(Form& form, QWidget* frame, QWidget* body, const char* sub
     linkColumn->setContentsMargins(0, 8, 0, 0);
     for (const char* link : {"lblCobrand", "lblFullBrand", forumLabel})
         linkColumn->addWidget(Link(link));
+    // The foot stands in the window before its button is measured below.
     auto* foot = new QHBoxLayout;
+    column->addLayout(foot);
     foot->addWidget(links, 1);
     int linkWidth = body->minimumWidth();
     if (form.Find("cmdNav(1)")) {
@@ -248,7 +287,6 @@ QWidget* SubjectShell(Form& form, QWidget* frame, QWidget* body, const char* sub
         foot->addWidget(exit, 0, Qt::AlignBottom);
         linkWidth -= exit->sizeHint().width() + foot->spacing();
     }
-    column->addLayout(foot);
     // The links wrap, and the window is sized before they get their texts:
     // their height at the narrowest width is reserved from the form's
     // captions, so they never ride over the panels.

@@ -1,7 +1,8 @@
 #pragma once
 // The pieces every window is built from. A widget that shows a control carries
 // the control's path as its object name, so the binder finds it; looks come
-// from the theme through roles, never from a window's own style sheet.
+// from the theme through roles, never from style sheets of a window's own.
+#include "WrappedHeights.h"
 #include "ui/binding/Adapters.h"
 
 #include <QCheckBox>
@@ -16,6 +17,7 @@
 #include <QTabWidget>
 #include <QTextEdit>
 #include <QVBoxLayout>
+#include <functional>
 #include <initializer_list>
 
 namespace quillane::ui::kit {
@@ -42,20 +44,25 @@ QCheckBox* Check(const QString& path);
 QRadioButton* Option(const QString& path);
 QComboBox* DropDown(const QString& path);
 // A multi-line text box with a vertical scroll bar; read-only when the
-// program only shows its text.
-QPlainTextEdit* TextBox(const QString& path, bool readOnly = false);
+// program only shows its text. Made in the widget it will stand in (`in`),
+// its scroll bars, which take their looks at once, take them only there.
+QPlainTextEdit* TextBox(const QString& path, bool readOnly = false, QWidget* in = nullptr);
 // A rich text view that the program writes and the user reads.
 QTextEdit* RichText(const QString& path);
 // A picture control of a fixed size; the picture is drawn at that size.
 QLabel* Picture(const QString& path, QSize size, const char* role = nullptr);
 // A panel: a container the program shows, hides or brings to front.
-QWidget* Panel(const QString& path);
+QWidget* Panel(const QString& path, QWidget* in = nullptr);
 // A frame with its caption as a title (the binder keeps the title).
 QGroupBox* Frame(const QString& path);
 // Panels stacked in one place; the binder keeps the front one current. The
 // stack takes its place in the layout first: the panel in front takes its
 // looks as it goes in, and should take them where it stands.
 QStackedWidget* Stack(QBoxLayout* place, std::initializer_list<QWidget*> panels, int stretch = 0);
+// The same, each panel made by its maker in the stack, where it stands: a
+// widget measured before it stands in its window takes its looks twice.
+using PanelMaker = std::function<QWidget*(QWidget* in)>;
+QStackedWidget* Stack(QBoxLayout* place, std::initializer_list<PanelMaker> panels, int stretch = 0);
 // Marks a control whose name is the text the program gives it with each
 // question (an answer's option), and which has none before.
 template <class W> W* NamedByContent(W* widget) {
@@ -135,6 +142,7 @@ private:
     QSize Indicator() const;
     int TextLeft() const;
     int TextWidth(int width) const { return std::max(40, width - TextLeft()); }
+    mutable WrappedHeights heights_;
 };
 using WrapCheck = Wrapping<QCheckBox>;
 using WrapOption = Wrapping<QRadioButton>;

@@ -21,15 +21,15 @@ QVBoxLayout* Column(QWidget* panel, int top = 8) {
     return column;
 }
 
-QPlainTextEdit* Box(const QString& path, int height) {
-    auto* box = TextBox(path);
+QPlainTextEdit* Box(const QString& path, int height, QWidget* in) {
+    auto* box = TextBox(path, false, in);
     box->setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOn);
     box->setMinimumHeight(height);
     return box;
 }
 
-QWidget* SettingsPanel() {
-    auto* panel = Panel("picSettings");
+QWidget* SettingsPanel(QWidget* in) {
+    auto* panel = Panel("picSettings", in);
     auto* column = Column(panel);
     column->addWidget(Label("Label2(0)", "heading"));
     column->addWidget(Label("lblLabel(0)"));
@@ -67,8 +67,8 @@ QWidget* SettingsPanel() {
     return panel;
 }
 
-QWidget* MemorizePanel() {
-    auto* panel = Panel("picMemorizeStones");
+QWidget* MemorizePanel(QWidget* in) {
+    auto* panel = Panel("picMemorizeStones", in);
     auto* column = Column(panel);
     column->addWidget(Label("lblStoneName", "title"));
     auto* grid = new QGridLayout;
@@ -78,7 +78,7 @@ QWidget* MemorizePanel() {
         grid->addWidget(caption, 0, i);
         grid->addWidget(Picture(Path("picStone", i), QSize(113, 151), "stone"), 1, i,
                         Qt::AlignHCenter);
-        auto* meaning = Box(Path("txtMeaning", i), 84);
+        auto* meaning = Box(Path("txtMeaning", i), 84, panel);
         caption->setBuddy(meaning);
         grid->addWidget(meaning, 2, i);
         grid->setColumnStretch(i, 1);
@@ -89,7 +89,7 @@ QWidget* MemorizePanel() {
     names->addWidget(Label("lblMeaningCaption(3)", "caption"), 0, 0);
     names->addWidget(Label("lblMeaningCaption(4)", "caption"), 0, 1);
     for (int i = 0; i <= 1; ++i) {
-        auto* box = Box(i == 0 ? "txtKeywords" : "txtAlternativeNames", 48);
+        auto* box = Box(i == 0 ? "txtKeywords" : "txtAlternativeNames", 48, panel);
         box->setAccessibleName(i == 0 ? "Keywords" : "Also known as");
         box->setMaximumHeight(48);
         names->addWidget(box, 1, i);
@@ -130,8 +130,8 @@ void StepButtons(QVBoxLayout* column, std::initializer_list<QString> buttons) {
     column->addLayout(row);
 }
 
-QWidget* TestSetUpPanel() {
-    auto* panel = Panel("picTestSetUp");
+QWidget* TestSetUpPanel(QWidget* in) {
+    auto* panel = Panel("picTestSetUp", in);
     auto* outer = Column(panel);
     QVBoxLayout* c = nullptr;
     auto* subjects = Step("fraTestSubjects", c);
@@ -154,13 +154,13 @@ QWidget* TestSetUpPanel() {
     return panel;
 }
 
-QWidget* GoalsPanel() {
-    auto* panel = Panel("picGoals");
+QWidget* GoalsPanel(QWidget* in) {
+    auto* panel = Panel("picGoals", in);
     auto* column = Column(panel);
     for (int goal = 1; goal <= 2; ++goal) {
         const QString n = QString::number(goal);
         column->addWidget(Check("chkGoal" + n));
-        auto* note = Box("txtGoal" + n, 70);
+        auto* note = Box("txtGoal" + n, 70, panel);
         note->setAccessibleName("Goal note " + n);
         column->addWidget(note, 1);
         auto* row = new QHBoxLayout;
@@ -171,8 +171,8 @@ QWidget* GoalsPanel() {
     return panel;
 }
 
-QWidget* KeywordPanel() {
-    auto* panel = Panel("picTestKeywords");
+QWidget* KeywordPanel(QWidget* in) {
+    auto* panel = Panel("picTestKeywords", in);
     auto* column = Column(panel);
     column->addWidget(Label("lblIndex", "heading"));
     column->addWidget(Label("lblCaption", "caption"));
@@ -198,11 +198,11 @@ QWidget* KeywordPanel() {
     return panel;
 }
 
-QWidget* ResultPanel() {
-    auto* panel = Panel("picTestResult");
+QWidget* ResultPanel(QWidget* in) {
+    auto* panel = Panel("picTestResult", in);
     auto* column = Column(panel);
     column->addWidget(Label("Label1", "heading"));
-    auto* result = Box("txtResult", 200);
+    auto* result = Box("txtResult", 200, panel);
     result->setAccessibleName("Test report");
     // The report's columns line up only in a fixed-pitch font.
     result->setFont(QFontDatabase::systemFont(QFontDatabase::FixedFont));
@@ -228,9 +228,7 @@ QWidget* BuildRunesWindow(Form& form, QWidget* frame) {
     subjects->addStretch();
     column->addLayout(subjects);
     Stack(column,
-          {SettingsPanel(), MemorizePanel(), TestSetUpPanel(), GoalsPanel(), KeywordPanel(),
-           ResultPanel()},
-          1);
+          {SettingsPanel, MemorizePanel, TestSetUpPanel, GoalsPanel, KeywordPanel, ResultPanel}, 1);
     return window;
 }
 

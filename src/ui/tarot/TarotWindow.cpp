@@ -30,8 +30,8 @@ QWidget* Page(TabPages* tabs, QVBoxLayout*& column) {
 // The date picker: day, month and year side by side, at a fixed size that
 // shows the longest of each list (a month's name in the user's language)
 // whole, although the program fills the lists only later.
-QWidget* DatePicker(const QString& path) {
-    auto* picker = Panel(path);
+QWidget* DatePicker(const QString& path, QWidget* in) {
+    auto* picker = Panel(path, in);
     auto* row = new QHBoxLayout(picker);
     row->setContentsMargins(0, 0, 0, 0);
     row->setSpacing(4);
@@ -76,7 +76,7 @@ QWidget* GoalsPage(TabPages* tabs) {
 
     auto* list = new QVBoxLayout;
     list->setSpacing(6);
-    auto* views = new QStackedWidget;
+    auto* views = new QStackedWidget(page);
     for (int i = 1; i >= 0; --i) {
         auto* view = Button(Path("optGoals", i));
         view->setCheckable(true);
@@ -84,7 +84,7 @@ QWidget* GoalsPage(TabPages* tabs) {
     }
     views->setFixedHeight(views->sizeHint().height());
     list->addWidget(views);
-    auto* goals = Named(new QTreeWidget, "ListView1");
+    auto* goals = Named(new QTreeWidget(page), "ListView1");
     goals->setAccessibleName("Goals");
     goals->setMinimumWidth(220);
     goals->setMinimumHeight(100);
@@ -101,14 +101,14 @@ QWidget* GoalsPage(TabPages* tabs) {
     name->setAccessibleName("Name of goal");
     goal->addWidget(name, 0, 1, 1, 3);
     goal->addWidget(Label("Label16", "caption"), 1, 0, Qt::AlignTop);
-    auto* description = TextBox("txtGoalDesc");
+    auto* description = TextBox("txtGoalDesc", false, page);
     description->setAccessibleName("Description of goal");
     description->setMaximumHeight(90);
     goal->addWidget(description, 1, 1, 1, 3);
     goal->addWidget(Label("Label12", "caption"), 2, 0);
-    goal->addWidget(DatePicker("mydtpStartingDate"), 2, 1);
+    goal->addWidget(DatePicker("mydtpStartingDate", page), 2, 1);
     goal->addWidget(Label("Label11", "caption"), 3, 0);
-    goal->addWidget(DatePicker("mydtpEndingDate"), 3, 1);
+    goal->addWidget(DatePicker("mydtpEndingDate", page), 3, 1);
     auto* timer = Frame("Frame3");
     auto* figures = new QGridLayout(timer);
     figures->addWidget(Label("Label7"), 0, 0);
@@ -197,9 +197,9 @@ QWidget* MemorizePage(TabPages* tabs) {
         texts->addWidget(caption, row, col, 1, span);
         texts->addWidget(box, row + 1, col, 1, span);
     };
-    labelled("Label9", TextBox("txtNormalMeaning", true), 0, 0, 1);
-    labelled("Label17", TextBox("txtReverseMeaning", true), 0, 1, 1);
-    auto* keywords = TextBox("txtKeywords", true);
+    labelled("Label9", TextBox("txtNormalMeaning", true, page), 0, 0, 1);
+    labelled("Label17", TextBox("txtReverseMeaning", true, page), 0, 1, 1);
+    auto* keywords = TextBox("txtKeywords", true, page);
     keywords->setFixedHeight(52);
     labelled("Label8", keywords, 2, 0, 2);
     row->addLayout(texts, 1);
@@ -210,8 +210,8 @@ QWidget* MemorizePage(TabPages* tabs) {
 }
 
 // The meanings to choose from: long paragraphs, each in its frame, scrolling.
-QWidget* DescriptionChoices() {
-    auto* container = Panel("picDescContainer");
+QWidget* DescriptionChoices(QWidget* in) {
+    auto* container = Panel("picDescContainer", in);
     auto* outer = new QVBoxLayout(container);
     outer->setContentsMargins(0, 0, 0, 0);
     auto* list = new QWidget;
@@ -226,7 +226,7 @@ QWidget* DescriptionChoices() {
         choices->addWidget(shape);
     }
     choices->addStretch();
-    auto* scroll = new QScrollArea;
+    auto* scroll = new QScrollArea(container);
     scroll->setWidgetResizable(true);
     scroll->setFrameShape(QFrame::NoFrame);
     scroll->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
@@ -236,8 +236,8 @@ QWidget* DescriptionChoices() {
 }
 
 // Up to twenty keywords in four columns of five.
-QWidget* KeywordChoices() {
-    auto* container = Panel("picKeywodContainer");
+QWidget* KeywordChoices(QWidget* in) {
+    auto* container = Panel("picKeywodContainer", in);
     auto* column = new QVBoxLayout(container);
     column->setContentsMargins(0, 0, 0, 0);
     column->addWidget(Label("lblMaxKeyword", "prompt"));
@@ -261,13 +261,13 @@ QWidget* TestPage(TabPages* tabs) {
     card->addWidget(Picture("picResult", kCardSize, "stone"), 0, Qt::AlignHCenter);
     card->addWidget(Label("lblIsReversed", "prompt"));
     card->addStretch();
-    auto* log = TextBox("Text1", true);
+    auto* log = TextBox("Text1", true, page);
     log->setAccessibleName("Cards drawn");
     log->hide();
     card->addWidget(log);
     row->addLayout(card);
-    Stack(row, {DescriptionChoices(), KeywordChoices()}, 1);
     column->addLayout(row, 1);
+    Stack(row, {DescriptionChoices, KeywordChoices}, 1);
     column->addLayout(
         ButtonRow({Label("lblQCount", "caption", false), Label("llblQCount", nullptr, false)},
                   {Button("cmdNextQuestion", true)}));
@@ -278,7 +278,7 @@ QWidget* ResultsPage(TabPages* tabs) {
     QVBoxLayout* column = nullptr;
     QWidget* page = Page(tabs, column);
     column->addWidget(Label("lblResultInfo", "caption"));
-    auto* report = TextBox("txtResult");
+    auto* report = TextBox("txtResult", false, page);
     report->setAccessibleName("Test report");
     // The report's columns line up only in a fixed-pitch font.
     report->setFont(QFontDatabase::systemFont(QFontDatabase::FixedFont));
