@@ -140,7 +140,11 @@ TEST_F(LauncherUi, EverySubjectOpensClosesAndIsLeftByKeyboard) {
     Subject(0)->click();
     QWidget* subject = host->WindowOf("frmLearnAstrologyMain");
     QWidget* last = subject->findChild<QWidget*>("cmdNext");
+    auto* link = subject->findChild<QLabel*>("lblCobrand");
+    link->setFocus(Qt::TabFocusReason);
+    EXPECT_TRUE(link->font().underline()) << "a link shows that it has the focus";
     last->setFocus();
+    EXPECT_FALSE(link->font().underline());
     for (int stops = 0; stops < 50 && subject->isAncestorOf(QApplication::focusWidget()); ++stops) {
         last = QApplication::focusWidget();
         QTest::keyClick(last, Qt::Key_Tab);

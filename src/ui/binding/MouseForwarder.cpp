@@ -34,6 +34,16 @@ bool MouseForwarder::eventFilter(QObject* watched, QEvent* event) {
         if (label && label->focusPolicy() == Qt::NoFocus)
             label->setFocusPolicy(Qt::TabFocus);
     }
+    // A link with the focus is underlined, so that a keyboard user sees where
+    // Return would lead; the style sheet's borders do not follow a label's
+    // focus.
+    if ((event->type() == QEvent::FocusIn || event->type() == QEvent::FocusOut) && control_.Click) {
+        if (auto* label = qobject_cast<QLabel*>(watched)) {
+            QFont font = label->font();
+            font.setUnderline(event->type() == QEvent::FocusIn);
+            label->setFont(font);
+        }
+    }
     // The form may be gone while its window still takes events.
     if (binder_.Detached() || !control_.Enabled())
         return QObject::eventFilter(watched, event);

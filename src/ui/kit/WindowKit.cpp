@@ -187,7 +187,7 @@ QStackedWidget* TabPages::Pages() const {
 }
 
 QWidget* TabPages::NewPage() {
-    return new QWidget(Pages());
+    return Panel(QString(), Pages());
 }
 
 TabPages::Layout TabPages::Current() const {
@@ -231,7 +231,7 @@ template <class Button> int Wrapping<Button>::TextLeft() const {
 
 template <class Button> int Wrapping<Button>::heightForWidth(int width) const {
     const int indicator = Indicator().height();
-    return heights_.At(width, this->text(), this->font(), {indicator, TextLeft(), 0, 0},
+    return heights_.At(width, this->text(), this->font(), {indicator, TextLeft()},
                        [this, indicator](int w) {
                            const QRect text = this->fontMetrics().boundingRect(
                                QRect(0, 0, TextWidth(w), 100000), Qt::TextWordWrap, this->text());

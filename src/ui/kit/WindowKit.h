@@ -1,7 +1,8 @@
 #pragma once
 // The pieces every window is built from. A widget that shows a control carries
 // the control's path as its object name, so the binder finds it; looks come
-// from the theme through roles, never from style sheets of a window's own.
+// from the theme through roles (and a subject's accent from the sheet the
+// theme gives its window), never from a window's own style sheet.
 #include "WrappedHeights.h"
 #include "ui/binding/Adapters.h"
 

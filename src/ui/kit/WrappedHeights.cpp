@@ -25,8 +25,8 @@ int WrappedHeights::At(int width, const QString& text, const QFont& font, Shape 
 int WrappedLabel::heightForWidth(int width) const {
     const QMargins m = contentsMargins();
     return heights_.At(width, text(), font(),
-                       {margin() * 2 + m.left() + m.right(), indent(), int(textFormat()),
-                        int(wordWrap()) + (m.top() + m.bottom()) * 2},
+                       {margin(), indent(), int(textFormat()), int(wordWrap()),
+                        m.left() + m.right(), m.top() + m.bottom()},
                        [this](int w) { return QLabel::heightForWidth(w); });
 }
 

@@ -13,8 +13,9 @@ namespace quillane::ui::kit {
 
 class WrappedHeights {
 public:
-    // What else decides the height: margins, indents, the text's format.
-    using Shape = std::array<int, 4>;
+    // What else decides the height, such as margins, an indent, the
+    // text's format; unused places stay 0.
+    using Shape = std::array<int, 6>;
     // The height kept for this width, text, font and shape, or what
     // `measure` gives for the width (and is kept).
     int At(int width, const QString& text, const QFont& font, Shape shape,
