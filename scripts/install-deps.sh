@@ -6,7 +6,7 @@ set -euo pipefail
 packages=(
   build-essential cmake pkg-config
   qt6-base-dev qt6-base-dev-tools qt6-svg-dev libqt6svg6 libgl-dev
-  libsqlite3-dev libpng-dev libgtest-dev
+  libsqlite3-dev libpng-dev libgtest-dev libfontconfig-dev
   fonts-dejavu-core
   xvfb xauth xdotool imagemagick poppler-utils
   # scripts/package.sh: the Debian package, its checks and validators.

@@ -1,5 +1,6 @@
 // Quillane: the desktop program.
 #include "Composition.h"
+#include "WarmStart.h"
 #include "shell/StartUp.h"
 #include "ui/binding/FormHost.h"
 #include "ui/kit/Accessibility.h"
@@ -24,7 +25,9 @@ int main(int argc, char** argv) {
         return 1;
     }
 #endif
+    std::jthread fonts = quillane::app::ReadFontConfiguration();
     QApplication qt(argc, argv);
+    const std::jthread bus = quillane::app::ConnectSessionBus();
     QApplication::setApplicationName("Quillane");
     // The desktop entry's name: Wayland desktops match the window to its entry
     // and icon by it.
@@ -45,6 +48,8 @@ int main(int argc, char** argv) {
     app::RegisterWindows(host);
     app.SetHost(&host);
 
+    if (fonts.joinable())
+        fonts.join();
     app.Dispatch([&] { StartUp(app); });
     if (app.Ended())
         return 0;

@@ -187,11 +187,14 @@ TEST_F(Windows, RunesAStepOfTheWalkSetsOnlyWhatChanged) {
     const long drawn = pictures.Drawn(), sets = binder->Refreshes();
     std::set<std::string> refreshed;
     long notices = 0;
+    std::map<std::string, int> perControl;
     binder->SetRefreshListener([&](const Control& c, Prop) {
         refreshed.insert(c.Path());
+        ++perControl[c.Path()];
         ++notices;
     });
-    Click(kRunes, "cmdNext");
+    // As a click does: the texts reach the widgets when the action ends.
+    binder->Act([&] { Model(kRunes, "cmdNext").UserClick(); });
     std::set<std::string> changed;
     for (const auto& [property, value] : state())
         if (before.at(property) != value)
@@ -199,7 +202,28 @@ TEST_F(Windows, RunesAStepOfTheWalkSetsOnlyWhatChanged) {
     EXPECT_GE(changed.size(), 8u) << "the next stone's name, pictures and texts";
     EXPECT_EQ(refreshed, changed);
     EXPECT_EQ(binder->Refreshes() - sets, notices) << "one widget property set a change";
+    EXPECT_EQ(perControl["txtKeywords"] + perControl["txtAlternativeNames"], 2)
+        << "a text built up piece by piece is shown once";
     EXPECT_EQ(pictures.Drawn(), drawn) << "a stone seen before is not drawn again";
+
+    // An action that waits for events (a message box, `DoEvents`) shows the
+    // texts it has given so far, before anything is painted.
+    auto* keywords = Widget<QPlainTextEdit>("txtKeywords");
+    std::string shown;
+    binder->Act([&] {
+        Model(kRunes, "txtKeywords").SetText("Held");
+        QCoreApplication::processEvents();
+        shown = keywords->toPlainText().toStdString();
+    });
+    EXPECT_EQ(shown, "Held");
+    // A bar kept in view has a handle only when there is something to scroll.
+    QScrollBar* bar = keywords->verticalScrollBar();
+    EXPECT_FALSE(bar->isEnabled());
+    std::string many;
+    for (int i = 0; i < 60; ++i)
+        many += "Wealth, ";
+    Model(kRunes, "txtKeywords").SetText(many);
+    EXPECT_TRUE(bar->isVisible() && bar->isEnabled());
 }
 
 } // namespace

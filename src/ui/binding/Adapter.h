@@ -28,6 +28,9 @@ public:
     void Refresh(Prop prop);
     // Shows every property, once, when the window is bound.
     void RefreshAll();
+    // Whether a new text may wait until the user's action ends: true where
+    // showing a text costs a layout of its own.
+    virtual bool HoldsText() const { return false; }
 
 protected:
     // The properties of this kind of widget beyond the common ones, and how

@@ -77,6 +77,7 @@ private:
 class TextBoxAdapter : public Adapter {
 public:
     TextBoxAdapter(Binder& binder, Control& control, QPlainTextEdit* box);
+    bool HoldsText() const override { return true; }
 
 protected:
     std::vector<Prop> OwnProps() const override {

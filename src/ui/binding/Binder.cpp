@@ -1,12 +1,30 @@
 #include "Binder.h"
 
 #include <QAction>
+#include <QCoreApplication>
 #include <QCursor>
 #include <QMainWindow>
 #include <QMdiSubWindow>
 #include <QMenu>
 
+#include <algorithm>
+#include <utility>
+
 namespace quillane::ui {
+namespace {
+
+// Actions under way, of any window: one window's action may fill another's
+// text boxes.
+int acting = 0;
+QList<QPointer<Binder>>& Holding() {
+    static QList<QPointer<Binder>> binders;
+    return binders;
+}
+// Posted ahead of paint requests, so that a message box or a `DoEvents`
+// inside an action shows the texts as they stand.
+const QEvent::Type kShowHeldTexts = QEvent::Type(QEvent::registerEventType());
+
+} // namespace
 
 Binder::Binder(Application& app, Form& form, QWidget* root)
     : QObject(root), app_(app), form_(form), root_(root) {
@@ -37,6 +55,7 @@ void Binder::Detach() {
     if (detached_)
         return;
     detached_ = true;
+    held_.clear();
     form_.SetObserver(nullptr);
     // Widgets may be gone already when the window is being deleted; their
     // connections to the form go with the adapters.
@@ -69,7 +88,27 @@ QWidget* Binder::Find(const Control& control) const {
 void Binder::Act(const std::function<void()>& action) {
     if (detached_ || app_.Ended())
         return;
+    ++acting;
     app_.Dispatch(action);
+    if (--acting == 0)
+        for (const QPointer<Binder>& binder : std::exchange(Holding(), {}))
+            if (binder)
+                binder->ShowHeldTexts();
+}
+
+void Binder::ShowHeldTexts() {
+    for (Adapter* adapter : std::exchange(held_, {})) {
+        if (listener_)
+            listener_(adapter->Model(), Prop::Text);
+        adapter->Refresh(Prop::Text);
+    }
+}
+
+bool Binder::event(QEvent* event) {
+    if (event->type() != kShowHeldTexts)
+        return QObject::event(event);
+    ShowHeldTexts();
+    return true;
 }
 
 void Binder::BuildMenus() {
@@ -147,9 +186,24 @@ void Binder::Update(Control& control, Prop prop) {
         return;
     }
     if (auto it = adapters_.find(&control); it != adapters_.end()) {
+        Adapter* adapter = it->second.get();
+        const bool held = std::find(held_.begin(), held_.end(), adapter) != held_.end();
+        if (acting && prop == Prop::Text && adapter->HoldsText()) {
+            if (held)
+                return;
+            if (held_.empty()) {
+                Holding().append(this);
+                QCoreApplication::postEvent(this, new QEvent(kShowHeldTexts),
+                                            Qt::HighEventPriority);
+            }
+            held_.push_back(adapter);
+            return;
+        }
+        if (held) // the text first, then what depends on it (the caret)
+            ShowHeldTexts();
         if (listener_)
             listener_(control, prop);
-        it->second->Refresh(prop);
+        adapter->Refresh(prop);
     }
 }
 

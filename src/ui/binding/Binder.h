@@ -39,8 +39,12 @@ public:
     // Pops up one of the form's menus at the mouse, its default entry in bold.
     void PopupMenu(Control& menu, Control* defaultEntry);
 
-    // Runs a user's action as one event of the program.
+    // Runs a user's action as one event of the program. Texts that the
+    // action gives a text box reach the widget when it ends (or before
+    // anything is painted), so a text built up piece by piece is laid out once.
     void Act(const std::function<void()>& action);
+    // Shows the texts held back until now.
+    void ShowHeldTexts();
 
     PictureCache& Pictures() const { return SharedPictures(); }
     // How many widget properties the binder has set since it was made.
@@ -55,11 +59,13 @@ private:
     QWidget* Find(const Control& control) const;
     void BuildMenus();
     void Update(Control& control, Prop prop);
+    bool event(QEvent* event) override;
 
     Application& app_;
     Form& form_;
     QWidget* root_;
     std::unordered_map<const Control*, std::unique_ptr<Adapter>> adapters_;
+    std::vector<Adapter*> held_; // text boxes whose text is still to be shown
     QHash<const Control*, QAction*> actions_;
     QHash<const Control*, QMenu*> submenus_;
     QList<QMenu*> menus_;

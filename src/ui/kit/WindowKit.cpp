@@ -4,6 +4,7 @@
 #include "WrappedHeights.h"
 
 #include <QFrame>
+#include <QScrollBar>
 #include <QStyleOptionButton>
 #include <QStylePainter>
 #include <type_traits>
@@ -74,6 +75,14 @@ protected:
 QPlainTextEdit* TextBox(const QString& path, bool readOnly, QWidget* in) {
     auto* box = Named(new Opaque<QPlainTextEdit>(in), path);
     box->setVerticalScrollBarPolicy(Qt::ScrollBarAsNeeded);
+    // The sheet's scroll bar fills its own groove, so a step that changes
+    // the bar's range does not repaint the box's frame beneath it; a bar
+    // kept in view with nothing to scroll shows no handle.
+    QScrollBar* bar = box->verticalScrollBar();
+    bar->setAttribute(Qt::WA_OpaquePaintEvent);
+    const auto showHandle = [bar](int min, int max) { bar->setEnabled(max > min); };
+    QObject::connect(bar, &QScrollBar::rangeChanged, bar, showHandle);
+    showHandle(bar->minimum(), bar->maximum());
     box->setReadOnly(readOnly);
     return box;
 }
