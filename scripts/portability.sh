@@ -3,7 +3,8 @@
 # (docs/portability.md):
 #   the logic libraries with Clang and libc++, and for Windows with MinGW-w64;
 #   the program and its tests in Release with GCC;
-#   the program again from a copy of the sources elsewhere: the same bytes.
+#   the program again from a copy of the sources elsewhere (kept in
+#   build/copy, brought up to date at each run): the same bytes.
 set -euo pipefail
 cd "$(dirname "$0")/.."
 jobs=$(nproc)
@@ -29,10 +30,22 @@ cmake -S . -B build/werror -DCMAKE_BUILD_TYPE=Release $werror >/dev/null
 cmake --build build/werror -j"$jobs"
 
 echo "== The program again, from a copy of the sources in another folder"
-copy=$(mktemp -d)
-trap 'rm -rf "$copy"' EXIT
-git ls-files -z --cached --others --exclude-standard | tar --null -T - -cf - | tar -xmf - -C "$copy" # new file times, as a checkout has
-cmake -S "$copy" -B "$copy/build" -DCMAKE_BUILD_TYPE=Release $werror >/dev/null
+# The copy stays in build/copy between runs and is brought up to date file by
+# file: a file copied again takes a new time, as a checkout gives it, and one
+# unchanged keeps its own, so each run builds again in the copy what it builds
+# again here. Files gone from the sources go from the copy.
+copy=$PWD/build/copy
+mkdir -p "$copy/sources"
+git ls-files -z --cached --others --exclude-standard | sort -z >"$copy/wanted"
+(cd "$copy/sources" && find . -type f -printf '%P\0' | sort -z) >"$copy/present"
+comm -z -13 "$copy/wanted" "$copy/present" | (cd "$copy/sources" && xargs -0 -r rm -f)
+while IFS= read -r -d '' file; do
+  if ! cmp -s "$file" "$copy/sources/$file"; then
+    mkdir -p "$copy/sources/$(dirname "$file")"
+    cp "$file" "$copy/sources/$file"
+  fi
+done <"$copy/wanted"
+cmake -S "$copy/sources" -B "$copy/build" -DCMAKE_BUILD_TYPE=Release $werror >/dev/null
 cmake --build "$copy/build" -j"$jobs" --target quillane quillane-drive
 for program in quillane quillane-drive; do
   cmp "build/werror/bin/$program" "$copy/build/bin/$program"

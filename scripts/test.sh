@@ -62,11 +62,22 @@ cmake --preset fuzz >/dev/null
 cmake --build build/fuzz -j"$jobs"
 scratch=$(mktemp -d)
 trap 'rm -rf "$scratch"' EXIT
+# The targets run side by side, one to a processor.
 for target in build/fuzz/bin/fuzz_*; do
   name=$(basename "$target")
   mkdir -p "$scratch/$name"
-  if ! "$target" -max_total_time=5 -artifact_prefix=build/fuzz/ "$scratch/$name" \
+  while [ "$(jobs -rp | wc -l)" -ge "$jobs" ]; do wait -n || true; done
+  { if "$target" -max_total_time=5 -artifact_prefix=build/fuzz/ "$scratch/$name" \
       "tests/fuzz/corpus/$name" >"$scratch/$name.log" 2>&1; then
+      echo passed >"$scratch/$name.status"
+    else
+      echo failed >"$scratch/$name.status"
+    fi; } &
+done
+wait
+for target in build/fuzz/bin/fuzz_*; do
+  name=$(basename "$target")
+  if [ "$(cat "$scratch/$name.status")" != passed ]; then
     cat "$scratch/$name.log"
     exit 1
   fi

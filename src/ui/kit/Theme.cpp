@@ -1,5 +1,7 @@
 #include "Theme.h"
 
+#include "FlatScrollBars.h"
+
 #include <QApplication>
 #include <QWidget>
 
@@ -67,16 +69,6 @@ QTabWidget::pane { border: 1px solid #d8d0bc; border-radius: 4px; top: -1px; }
 QTabBar::tab { background: #efe8d4; border: 1px solid #d8d0bc; padding: 5px 10px; margin-right: 2px; }
 QTabBar::tab:selected { background: #ffffff; }
 QTabBar::tab:disabled { color: #a8a2b4; }
-QScrollBar { background: #f1ece0; border: none; margin: 0; }
-QScrollBar:vertical { width: 12px; }
-QScrollBar:horizontal { height: 12px; }
-QScrollBar::handle { background: #c8bd9c; border: none; }
-QScrollBar::handle:hover, QScrollBar::handle:pressed { background: #a8995f; }
-QScrollBar::handle:disabled { background: none; }
-QScrollBar::handle:vertical { min-height: 28px; margin: 2px 3px; }
-QScrollBar::handle:horizontal { min-width: 28px; margin: 3px 2px; }
-QScrollBar::add-line, QScrollBar::sub-line { width: 0; height: 0; border: none; background: none; }
-QScrollBar::add-page, QScrollBar::sub-page { background: none; }
 )";
 
 // Rules in the subject's accent, given to the subject's window itself;
@@ -178,6 +170,7 @@ void Apply(QApplication& app) {
     QFont font = QApplication::font();
     font.setStyleStrategy(QFont::PreferNoShaping);
     QApplication::setFont(font);
+    QApplication::setStyle(new kit::FlatScrollBars);
     app.setStyleSheet(StyleSheet());
 }
 

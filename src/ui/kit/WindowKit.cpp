@@ -75,14 +75,9 @@ protected:
 QPlainTextEdit* TextBox(const QString& path, bool readOnly, QWidget* in) {
     auto* box = Named(new Opaque<QPlainTextEdit>(in), path);
     box->setVerticalScrollBarPolicy(Qt::ScrollBarAsNeeded);
-    // The sheet's scroll bar fills its own groove, so a step that changes
-    // the bar's range does not repaint the box's frame beneath it; a bar
-    // kept in view with nothing to scroll shows no handle.
-    QScrollBar* bar = box->verticalScrollBar();
-    bar->setAttribute(Qt::WA_OpaquePaintEvent);
-    const auto showHandle = [bar](int min, int max) { bar->setEnabled(max > min); };
-    QObject::connect(bar, &QScrollBar::rangeChanged, bar, showHandle);
-    showHandle(bar->minimum(), bar->maximum());
+    // The scroll bar fills its own groove (FlatScrollBars), so a step that
+    // changes its range does not repaint the box's frame beneath it.
+    box->verticalScrollBar()->setAttribute(Qt::WA_OpaquePaintEvent);
     box->setReadOnly(readOnly);
     return box;
 }
