@@ -60,8 +60,8 @@ QWidget* ZodiacStrip() {
     return strip;
 }
 
-QWidget* ChoicePanel() {
-    auto* panel = Panel("Frame1");
+QWidget* ChoicePanel(QWidget* in) {
+    auto* panel = Panel("Frame1", in);
     auto* column = new QVBoxLayout(panel);
     column->setContentsMargins(30, 20, 30, 16);
     column->setSpacing(10);
@@ -70,7 +70,9 @@ QWidget* ChoicePanel() {
     column->addSpacing(8);
     column->addWidget(Text("Label1(2)", "hint"));
 
-    auto* card = new QFrame;
+    // The lists are made where they stand: one moved into the window builds
+    // its pop-up at once.
+    auto* card = new QFrame(panel);
     card->setProperty("role", "card");
     auto* grid = new QGridLayout(card);
     grid->setContentsMargins(22, 18, 22, 18);
@@ -82,11 +84,11 @@ QWidget* ChoicePanel() {
         auto* option = Option(rows[r][0]);
         option->setMinimumWidth(140);
         grid->addWidget(option, r, 0);
-        auto* main = DropDown(rows[r][1]);
+        auto* main = DropDown(rows[r][1], card);
         main->setAccessibleName(r == 0 ? "What to learn" : "What to be tested on");
         main->setMinimumWidth(190);
         grid->addWidget(main, r, 1);
-        auto* sub = DropDown(rows[r][2]);
+        auto* sub = DropDown(rows[r][2], card);
         sub->setAccessibleName(r == 0 ? "Which part to learn" : "Which part to be tested on");
         sub->setMinimumWidth(250);
         sub->setMaxVisibleItems(16);
@@ -102,8 +104,8 @@ QWidget* ChoicePanel() {
     return panel;
 }
 
-QWidget* BrowsingPanel() {
-    auto* panel = Panel("Frame2");
+QWidget* BrowsingPanel(QWidget* in) {
+    auto* panel = Panel("Frame2", in);
     auto* column = Headings(panel, "lblLabel(0)", "lblLabel(1)");
 
     auto* record = new QHBoxLayout;
@@ -135,8 +137,8 @@ QWidget* BrowsingPanel() {
     return panel;
 }
 
-QWidget* QuestionPanel(Form& form) {
-    auto* panel = Panel("Frame3");
+QWidget* QuestionPanel(Form& form, QWidget* in) {
+    auto* panel = Panel("Frame3", in);
     auto* column = Headings(panel, "lblTest(0)", "lblTest(1)");
 
     // The sign or planet asked on the left, the five choices beside it.
@@ -177,8 +179,8 @@ QWidget* QuestionPanel(Form& form) {
     return panel;
 }
 
-QWidget* ReportPanel() {
-    auto* panel = Panel("Frame4");
+QWidget* ReportPanel(QWidget* in) {
+    auto* panel = Panel("Frame4", in);
     auto* column = new QVBoxLayout(panel);
     column->setContentsMargins(22, 18, 22, 16);
     column->setSpacing(12);
@@ -200,7 +202,8 @@ QWidget* BuildAstrologyWindow(Form& form, QWidget* frame) {
     QWidget* window = SubjectShell(form, frame, body, "astrology", "Label61");
     auto* layout = new QVBoxLayout(body);
     layout->setContentsMargins(0, 0, 0, 0);
-    Stack(layout, {ChoicePanel(), BrowsingPanel(), QuestionPanel(form), ReportPanel()});
+    Stack(layout, {ChoicePanel, BrowsingPanel,
+                   [&form](QWidget* in) { return QuestionPanel(form, in); }, ReportPanel});
     return window;
 }
 

@@ -43,8 +43,8 @@ QRadioButton* Option(const QString& path) {
     return option;
 }
 
-QComboBox* DropDown(const QString& path) {
-    return Named(new QComboBox, path);
+QComboBox* DropDown(const QString& path, QWidget* in) {
+    return Named(new QComboBox(in), path);
 }
 
 namespace {
@@ -101,8 +101,8 @@ QWidget* Panel(const QString& path, QWidget* in) {
     return Named(new Opaque<QWidget>(in), path);
 }
 
-QGroupBox* Frame(const QString& path) {
-    return Named(new QGroupBox, path);
+QGroupBox* Frame(const QString& path, QWidget* in) {
+    return Named(new QGroupBox(in), path);
 }
 
 QStackedWidget* Stack(QBoxLayout* place, std::initializer_list<QWidget*> panels, int stretch) {

@@ -43,7 +43,9 @@ QLabel* Link(const QString& path);
 QPushButton* Button(const QString& path, bool primary = false);
 QCheckBox* Check(const QString& path);
 QRadioButton* Option(const QString& path);
-QComboBox* DropDown(const QString& path);
+// A drop-down list. Made in the widget it will stand in (`in`): a list moved
+// into a window with its own style sheet builds its pop-up at once.
+QComboBox* DropDown(const QString& path, QWidget* in = nullptr);
 // A multi-line text box with a vertical scroll bar; read-only when the
 // program only shows its text. Made in the widget it will stand in (`in`),
 // its scroll bars, which take their looks at once, take them only there.
@@ -55,7 +57,7 @@ QLabel* Picture(const QString& path, QSize size, const char* role = nullptr);
 // A panel: a container the program shows, hides or brings to front.
 QWidget* Panel(const QString& path, QWidget* in = nullptr);
 // A frame with its caption as a title (the binder keeps the title).
-QGroupBox* Frame(const QString& path);
+QGroupBox* Frame(const QString& path, QWidget* in = nullptr);
 // Panels stacked in one place; the binder keeps the front one current. The
 // stack takes its place in the layout first: the panel in front takes its
 // looks as it goes in, and should take them where it stands.

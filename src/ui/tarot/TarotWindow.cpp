@@ -46,7 +46,7 @@ QWidget* DatePicker(const QString& path, QWidget* in) {
     };
     for (const Part& part : {Part{"cboDate", " day", {"00"}}, Part{"cboMonth", " month", months},
                              Part{"cboYear", " year", {"0000"}}}) {
-        auto* combo = DropDown(part.list);
+        auto* combo = DropDown(part.list, picker);
         combo->setAccessibleName(which + part.name);
         combo->setMaxVisibleItems(12);
         QSize text;
@@ -109,14 +109,14 @@ QWidget* GoalsPage(TabPages* tabs) {
     goal->addWidget(DatePicker("mydtpStartingDate", page), 2, 1);
     goal->addWidget(Label("Label11", "caption"), 3, 0);
     goal->addWidget(DatePicker("mydtpEndingDate", page), 3, 1);
-    auto* timer = Frame("Frame3");
+    auto* timer = Frame("Frame3", page);
     auto* figures = new QGridLayout(timer);
     figures->addWidget(Label("Label7"), 0, 0);
     figures->addWidget(Label("lblDayCount", "caption", false), 0, 1);
     figures->addWidget(Label("Label1"), 1, 0);
     figures->addWidget(Label("lblDaysRemaining", "caption", false), 1, 1);
     figures->addWidget(Label("Label13"), 2, 0);
-    auto* percent = DropDown("Combo3");
+    auto* percent = DropDown("Combo3", timer);
     percent->setAccessibleName("Achieved percentage of goal");
     figures->addWidget(percent, 2, 1);
     figures->setColumnStretch(0, 1);
