@@ -43,8 +43,6 @@ public:
     // action gives a text box reach the widget when it ends (or before
     // anything is painted), so a text built up piece by piece is laid out once.
     void Act(const std::function<void()>& action);
-    // Shows the texts held back until now.
-    void ShowHeldTexts();
 
     PictureCache& Pictures() const { return SharedPictures(); }
     // How many widget properties the binder has set since it was made.
@@ -59,6 +57,8 @@ private:
     QWidget* Find(const Control& control) const;
     void BuildMenus();
     void Update(Control& control, Prop prop);
+    // Shows the texts held back until now.
+    void ShowHeldTexts();
     bool event(QEvent* event) override;
 
     Application& app_;
