@@ -216,6 +216,9 @@ TEST_F(Windows, RunesAStepOfTheWalkSetsOnlyWhatChanged) {
         shown = keywords->toPlainText().toStdString();
     });
     EXPECT_EQ(shown, "Held");
+    // Tab leaves a text box, as any other control; it types nothing.
+    QTest::keyClick(keywords, Qt::Key_Tab);
+    EXPECT_EQ(keywords->toPlainText().toStdString(), "Held");
     // Scroll bars have no arrow buttons: a click at either end of the groove
     // turns a page.
     QScrollBar* bar = keywords->verticalScrollBar();

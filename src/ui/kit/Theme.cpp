@@ -88,6 +88,7 @@ QPushButton[role="primary"]:disabled { background: #b4b2c8; border-color: #b4b2c
 QPushButton[role="primary"]:focus { border: 2px solid #c98a1b; }
 QPushButton[role="subject"] { background: ACCENT; color: #f3ecd8; border-color: ACCENT; font-weight: 600; }
 QPushButton[role="subject"]:hover { background: HOVER; }
+QPushButton[role="subject"]:focus { border: 2px solid #c98a1b; }
 )";
 
 // The launcher keeps its night sky whatever the desktop's palette.

@@ -75,6 +75,8 @@ protected:
 QPlainTextEdit* TextBox(const QString& path, bool readOnly, QWidget* in) {
     auto* box = Named(new Opaque<QPlainTextEdit>(in), path);
     box->setVerticalScrollBarPolicy(Qt::ScrollBarAsNeeded);
+    // Tab goes on to the next control, as from any other; it types nothing.
+    box->setTabChangesFocus(true);
     // The scroll bar fills its own groove (FlatScrollBars), so a step that
     // changes its range does not repaint the box's frame beneath it.
     box->verticalScrollBar()->setAttribute(Qt::WA_OpaquePaintEvent);
